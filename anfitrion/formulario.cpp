@@ -1,0 +1,175 @@
+// The form's controls, activation and design mode; its window and its keyboard have their own
+// files.
+#include "anfitrion/formulario.h"
+
+#include "anfitrion/unidades.h"
+
+#include <algorithm>
+
+namespace anfitrion {
+
+Formulario::Formulario(const OpcionesFormulario& opciones)
+    : ambiente_(opciones.ambiente), opcionesSitio_(opciones.sitio), registro_(opciones.registro) {
+    CrearVentana(opciones);
+    marco_ = Hacer<MarcoEnSitio>(ventana_, registro_, "marco");
+    documento_ = Hacer<MarcoEnSitio>(ventana_, registro_, "documento");
+    contenedor_ = Hacer<Contenedor>(*this);
+    if (opciones.visible)
+        ShowWindow(ventana_, SW_SHOWNORMAL);
+    if (!ambiente_.modoUsuario)
+        PonerCapa();
+}
+
+Formulario::~Formulario() {
+    *vivo_ = false;
+    alPintar = nullptr;
+    alRecibir = nullptr;
+    activo_.reset();
+    seleccion_.clear();
+    while (!controles_.empty()) {
+        const auto control = controles_.back();
+        control->Cerrar();
+        std::erase(controles_, control);
+    }
+    marco_->Desconectar();
+    documento_->Desconectar();
+    contenedor_->Desconectar();
+    SetWindowLongPtrW(ventana_, GWLP_USERDATA, 0);
+    DestroyWindow(ventana_);
+}
+
+std::shared_ptr<ControlAlojado> Formulario::Agregar(const Componente& componente, REFCLSID clase,
+                                                    const std::wstring& nombre,
+                                                    const RECT& rectangulo, const Origen& origen,
+                                                    ControlAlojado* dentro) {
+    return Agregar(componente.Crear(clase), nombre, rectangulo, origen, dentro);
+}
+
+std::shared_ptr<ControlAlojado> Formulario::Agregar(const Puntero<IUnknown>& objeto,
+                                                    const std::wstring& nombre,
+                                                    const RECT& rectangulo, const Origen& origen,
+                                                    ControlAlojado* dentro) {
+    const HWND padre = dentro && dentro->Ventana() ? dentro->Ventana() : ventana_;
+    const auto control =
+        std::make_shared<ControlAlojado>(*this, nombre, rectangulo, padre, opcionesSitio_);
+    control->orden = siguienteOrden_++;
+    // On the form before it is activated: the control may ask about itself meanwhile.
+    controles_.push_back(control);
+    try {
+        control->Alojar(objeto, origen);
+        if (!(control->Marcas() & OLEMISC_INVISIBLEATRUNTIME))
+            control->Activar(false);
+    } catch (...) {
+        Quitar(*control);
+        throw;
+    }
+    if (capa_)
+        PonerCapa();
+    return control;
+}
+
+ULONG Formulario::Quitar(ControlAlojado& control) {
+    const auto sostenido = control.shared_from_this();
+    const ULONG queda = control.Cerrar();
+    return queda;
+}
+
+void Formulario::ControlCerrado(ControlAlojado& control) {
+    if (activo_.get() == &control)
+        activo_.reset();
+    std::erase_if(seleccion_, [&](auto& c) { return c.get() == &control; });
+    std::erase_if(controles_, [&](auto& c) { return c.get() == &control; });
+}
+
+std::shared_ptr<ControlAlojado> Formulario::Control(const std::wstring& nombre) const {
+    for (const auto& control : controles_)
+        if (lstrcmpiW(control->Nombre().c_str(), nombre.c_str()) == 0)
+            return control;
+    return nullptr;
+}
+
+void Formulario::UIActivado(ControlAlojado& control) {
+    if (activo_.get() == &control)
+        return;
+    const auto anterior = std::exchange(activo_, control.shared_from_this());
+    ultimaVentana_ = nullptr;
+    if (anterior)
+        if (const auto enSitio = anterior->Como<IOleInPlaceObject>())
+            enSitio->UIDeactivate();
+    // The focused button takes the default look from the form's own default button.
+    for (const auto& c : std::vector(controles_))
+        if (c->porDefecto || c == anterior || c.get() == &control)
+            c->AmbienteCambiado(DISPID_AMBIENT_DISPLAYASDEFAULT);
+}
+
+void Formulario::UIDesactivado(ControlAlojado& control) {
+    if (activo_.get() != &control)
+        return;
+    const auto anterior = std::exchange(activo_, nullptr);
+    for (const auto& c : std::vector(controles_))
+        if (c->porDefecto || c == anterior)
+            c->AmbienteCambiado(DISPID_AMBIENT_DISPLAYASDEFAULT);
+}
+
+void Formulario::DesactivarUI() {
+    const auto anterior = activo_;
+    if (!anterior)
+        return;
+    if (const auto enSitio = anterior->Como<IOleInPlaceObject>())
+        enSitio->UIDeactivate();
+    if (activo_ == anterior)
+        activo_.reset();
+}
+
+bool Formulario::SeMuestraPorDefecto(const ControlAlojado& control) const {
+    if (activo_ && activo_->EsBoton())
+        return activo_.get() == &control;
+    return control.porDefecto;
+}
+
+bool Formulario::PedirPropiedades(ControlAlojado& control) {
+    const auto manejador = alPedirPropiedades;
+    return manejador && manejador(control);
+}
+
+void Formulario::CambiarAmbiente(DISPID numero, const std::function<void(Ambiente&)>& cambio) {
+    cambio(ambiente_);
+    for (const auto& control : std::vector(controles_))
+        control->AmbienteCambiado(numero);
+}
+
+void Formulario::PonerModoUsuario(bool usuario) {
+    if (usuario == ambiente_.modoUsuario)
+        return;
+    DesactivarUI();
+    CambiarAmbiente(DISPID_AMBIENT_USERMODE, [&](Ambiente& a) { a.modoUsuario = usuario; });
+    seleccion_.clear();
+    PonerCapa();
+    InvalidateRect(ventana_, nullptr, TRUE);
+}
+
+void Formulario::Seleccionar(const std::shared_ptr<ControlAlojado>& control, bool anadir) {
+    if (!anadir)
+        seleccion_.clear();
+    if (const auto ya = std::find(seleccion_.begin(), seleccion_.end(), control);
+        ya != seleccion_.end())
+        seleccion_.erase(ya);
+    else if (control)
+        seleccion_.push_back(control);
+    InvalidateRect(ventana_, nullptr, TRUE);
+    if (const auto manejador = alSeleccionar)
+        manejador();
+}
+
+void Formulario::ElegirEn(POINT punto, bool anadir) {
+    // The last one created lies on top.
+    for (auto i = controles_.rbegin(); i != controles_.rend(); ++i) {
+        RECT r = (*i)->Rectangulo();
+        MapWindowPoints((*i)->VentanaPadre(), ventana_, reinterpret_cast<POINT*>(&r), 2);
+        if ((*i)->Visible() && PtInRect(&r, punto))
+            return Seleccionar(std::shared_ptr(*i), anadir);
+    }
+    Seleccionar(nullptr, anadir);
+}
+
+} // namespace anfitrion

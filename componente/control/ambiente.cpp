@@ -1,0 +1,156 @@
+// IOleControl and the ambient properties of the container.
+#include "componente/control/objeto_control.h"
+
+#include <vector>
+
+namespace pincela::componente {
+
+bool ObjetoControl::LeerAmbiente(DISPID dispid, VARTYPE tipo, VARIANT* valor) {
+    if (!ambiente_)
+        return false;
+    VarianteCom leido;
+    DISPPARAMS ninguno{};
+    const HRESULT estado = Ptr<IDispatch>(ambiente_)->Invoke(dispid, IID_NULL, LOCALE_USER_DEFAULT,
+                                                             DISPATCH_PROPERTYGET, &ninguno,
+                                                             leido.Recibir(), nullptr, nullptr);
+    if (FAILED(estado) || V_VT(&leido) == VT_EMPTY)
+        return false;
+    return SUCCEEDED(VariantChangeType(valor, &leido, 0, tipo));
+}
+
+void ObjetoControl::OlvidarAmbiente() {
+    modoUsuario_ = -1;
+    porDefecto_ = -1;
+}
+
+bool ObjetoControl::UserMode() {
+    if (modoUsuario_ < 0) {
+        // A container that does not know design mode is running.
+        modoUsuario_ = 1;
+        VarianteCom valor;
+        if (LeerAmbiente(DISPID_AMBIENT_USERMODE, VT_BOOL, &valor))
+            modoUsuario_ = V_BOOL(&valor) != VARIANT_FALSE;
+    }
+    return modoUsuario_ != 0;
+}
+
+bool ObjetoControl::DisplayAsDefault() {
+    if (porDefecto_ < 0) {
+        porDefecto_ = 0;
+        VarianteCom valor;
+        if (LeerAmbiente(DISPID_AMBIENT_DISPLAYASDEFAULT, VT_BOOL, &valor))
+            porDefecto_ = V_BOOL(&valor) != VARIANT_FALSE;
+    }
+    return porDefecto_ != 0;
+}
+
+Fuente ObjetoControl::AmbientFont() {
+    Fuente fuente;
+    VarianteCom valor;
+    if (LeerAmbiente(DISPID_AMBIENT_FONT, VT_DISPATCH, &valor) && V_DISPATCH(&valor)) {
+        // Each control has a font of its own: changing one must not change its neighbours.
+        const Ptr<IFont> ajena = Ptr<IFont>::De(V_DISPATCH(&valor));
+        Ptr<IFont> propia;
+        if (ajena && SUCCEEDED(ajena->Clone(propia.Recibir())))
+            fuente = windows::EnvolverFuente(propia.get());
+    }
+    if (!fuente)
+        fuente = windows::CrearFuente({});
+    fuenteAmbiente_ = fuente->Atributos();
+    return fuente;
+}
+
+void ObjetoControl::CambioDeFuenteAmbiente() {
+    if (vida_ != Vida::Viva || !fuenteAmbiente_)
+        return;
+    const AtributosFuente anterior = *fuenteAmbiente_;
+    const Fuente nueva = AmbientFont();
+    if (!(nueva->Atributos() == anterior))
+        Nucleo()->AmbientFontChanged(anterior, nueva);
+}
+
+HRESULT ObjetoControl::GetControlInfo(CONTROLINFO* info) {
+    if (!info)
+        return E_POINTER;
+    if (info->cb < sizeof *info)
+        return E_INVALIDARG;
+    info->hAccel = aceleradores_;
+    info->cAccel =
+        static_cast<USHORT>(aceleradores_ ? CopyAcceleratorTableW(aceleradores_, nullptr, 0) : 0);
+    info->dwFlags = 0;
+    return S_OK;
+}
+
+void ObjetoControl::AccessKeysChanged() {
+    const Texto teclas = entorno_.superficie().AccessKeys();
+    if (teclas == teclasDeAcceso_)
+        return;
+    teclasDeAcceso_ = teclas;
+    if (aceleradores_)
+        DestroyAcceleratorTable(std::exchange(aceleradores_, nullptr));
+    std::vector<ACCEL> lista;
+    for (const char16_t tecla : teclas)
+        lista.push_back({FALT, static_cast<WORD>(tecla), static_cast<WORD>(lista.size())});
+    if (!lista.empty())
+        aceleradores_ = CreateAcceleratorTableW(lista.data(), static_cast<int>(lista.size()));
+    if (sitioDeControl_ && vida_ == Vida::Viva)
+        Ptr<IOleControlSite>(sitioDeControl_)->OnControlInfoChanged();
+}
+
+HRESULT ObjetoControl::OnMnemonic(MSG* mensaje) {
+    return Guardar([&] {
+        if (UserMode() && vida_ == Vida::Viva)
+            Nucleo()->AccessKeyPress(
+                static_cast<std::int16_t>(mensaje ? mensaje->wParam & 0x7FFF : 0));
+        return S_OK;
+    });
+}
+
+HRESULT ObjetoControl::OnAmbientPropertyChange(DISPID dispid) {
+    return Guardar([&] {
+        // DISPID_UNKNOWN announces that any of them may have changed.
+        auto es = [dispid](DISPID una) { return dispid == una || dispid == DISPID_UNKNOWN; };
+        const bool eraPorDefecto = porDefecto_ > 0;
+        OlvidarAmbiente();
+        if (es(DISPID_AMBIENT_LOCALEID))
+            windows::LeerRegional();
+        if (vida_ != Vida::Viva)
+            return S_OK;
+        if (es(DISPID_AMBIENT_FONT))
+            CambioDeFuenteAmbiente();
+        if (es(DISPID_AMBIENT_DISPLAYASDEFAULT) && DisplayAsDefault() != eraPorDefecto)
+            Nucleo()->AmbientChanged();
+        // What is transparent shows the container's colours.
+        if (es(DISPID_AMBIENT_BACKCOLOR) && entorno_.Ventana())
+            InvalidateRect(entorno_.Ventana(), nullptr, FALSE);
+        return S_OK;
+    });
+}
+
+HRESULT ObjetoControl::FreezeEvents(BOOL congelar) {
+    if (congelar)
+        ++congelados_;
+    else if (congelados_ > 0)
+        --congelados_;
+    return S_OK;
+}
+
+void ObjetoControl::EnviarTab() {
+    INPUT teclas[2] = {};
+    for (INPUT& tecla : teclas) {
+        tecla.type = INPUT_KEYBOARD;
+        tecla.ki.wVk = VK_TAB;
+    }
+    teclas[1].ki.dwFlags = KEYEVENTF_KEYUP;
+    SendInput(2, teclas, sizeof(INPUT));
+}
+
+void ObjetoControl::ControlesContenidos(const std::function<void(ControlContenido&)>&) {}
+
+void ObjetoControl::ErrorEnNotificacion(const ErrorEjecucion& error) noexcept {
+    // The platform called, so there is nobody to return a status to: the error is left where a
+    // container that looks for it finds it.
+    DejarErrorInfo(Datos().interfaz, Datos().nombre, error.Numero());
+}
+
+} // namespace pincela::componente

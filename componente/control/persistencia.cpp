@@ -1,0 +1,237 @@
+// Life of a control's properties: new, restored, saved.
+#include "componente/control/bolsas.h"
+#include "componente/control/objeto_control.h"
+
+#include <algorithm>
+
+namespace pincela::componente {
+
+namespace {
+
+constexpr wchar_t NombreDelFlujo[] = L"Pincela";
+
+HRESULT EstadoDe(Lectura lectura) {
+    switch (lectura) {
+    case Lectura::Bien:
+        return S_OK;
+    case Lectura::NoEsNuestro:
+        return STG_E_INVALIDHEADER;
+    case Lectura::VersionMasNueva:
+        return STG_E_OLDDLL;
+    case Lectura::Danado:
+        break;
+    }
+    return STG_E_DOCFILECORRUPT;
+}
+
+/// Appends exactly `cuantos` bytes. In pieces, so that a length that lies costs no memory.
+void LeerBytes(IStream& flujo, std::size_t cuantos, Bytes& bytes) {
+    constexpr std::size_t trozo = 64 * 1024;
+    while (cuantos > 0) {
+        const std::size_t pedidos = std::min(cuantos, trozo);
+        const std::size_t antes = bytes.size();
+        bytes.resize(antes + pedidos);
+        ULONG leidos = 0;
+        Exigir(flujo.Read(bytes.data() + antes, static_cast<ULONG>(pedidos), &leidos));
+        if (leidos == 0)
+            throw FalloCom{STG_E_DOCFILECORRUPT};
+        bytes.resize(antes + leidos);
+        cuantos -= leidos;
+    }
+}
+
+} // namespace
+
+HRESULT ObjetoControl::GetClassID(CLSID* clase) {
+    if (!clase)
+        return E_POINTER;
+    *clase = Datos().clase;
+    return S_OK;
+}
+
+HRESULT ObjetoControl::IsDirty() {
+    return sucio_ ? S_OK : S_FALSE;
+}
+
+void ObjetoControl::Preparar() {
+    if (vida_ == Vida::SinIniciar)
+        Iniciar();
+}
+
+void ObjetoControl::Iniciar() {
+    vida_ = Vida::Cargando;
+    try {
+        Nucleo()->InitProperties();
+    } catch (...) {
+        vida_ = Vida::SinIniciar;
+        throw;
+    }
+    TerminarCarga();
+    sucio_ = true; // never saved yet
+}
+
+void ObjetoControl::TerminarCarga() {
+    vida_ = Vida::Viva;
+    interfaz_.preparar = nullptr;
+    sucio_ = false;
+}
+
+void ObjetoControl::Restaurar(BolsaPropiedades& bolsa) {
+    const Vida antes = vida_;
+    // What the control holds now, to be put back when the new values turn out to be unusable.
+    BolsaMemoria respaldo;
+    Nucleo()->WriteProperties(respaldo);
+    const Imagen icono = entorno_.superficie().MouseIcon();
+    vida_ = Vida::Cargando;
+    try {
+        Nucleo()->ReadProperties(bolsa);
+    } catch (...) {
+        Nucleo()->ReadProperties(respaldo);
+        entorno_.superficie().PonMouseIcon(icono);
+        vida_ = antes;
+        throw;
+    }
+    TerminarCarga();
+    if (antes == Vida::Viva)
+        AvisarCambio(DISPID_UNKNOWN);
+    AvisarVista();
+}
+
+void ObjetoControl::CargarBytes(IStream& flujo) {
+    Bytes bytes;
+    LeerBytes(flujo, LargoDeCabecera, bytes);
+    std::uint32_t largo = 0;
+    Exigir(EstadoDe(LeerCabecera(bytes, largo)));
+    LeerBytes(flujo, largo, bytes);
+    ControlGuardado guardado;
+    Exigir(EstadoDe(LeerGuardado(bytes, guardado)));
+    BolsaMemoria bolsa(guardado.propiedades);
+    const SIZE extensionAntes = extension_;
+    const SIZE tamanioAntes = entorno_.Tamano();
+    if (!activoEnSitio_) {
+        extension_ = {guardado.ancho, guardado.alto};
+        entorno_.PonTamano(APixeles(extension_), false);
+    }
+    try {
+        Restaurar(bolsa);
+    } catch (...) {
+        extension_ = extensionAntes;
+        if (!activoEnSitio_)
+            entorno_.PonTamano(tamanioAntes, false);
+        throw;
+    }
+}
+
+void ObjetoControl::GuardarBytes(IStream& flujo) {
+    Preparar();
+    BolsaMemoria bolsa;
+    Nucleo()->WriteProperties(bolsa);
+    const Bytes bytes = EscribirGuardado({extension_.cx, extension_.cy, bolsa.Guardar()});
+    ULONG escritos = 0;
+    Exigir(flujo.Write(bytes.data(), static_cast<ULONG>(bytes.size()), &escritos));
+    if (escritos != bytes.size())
+        throw FalloCom{STG_E_MEDIUMFULL};
+}
+
+HRESULT ObjetoControl::InitNew() {
+    return Guardar([&] {
+        Preparar();
+        return S_OK;
+    });
+}
+
+HRESULT ObjetoControl::Load(IStream* flujo) {
+    if (!flujo)
+        return E_POINTER;
+    return Guardar([&] {
+        CargarBytes(*flujo);
+        return S_OK;
+    });
+}
+
+HRESULT ObjetoControl::Save(IStream* flujo, BOOL limpiar) {
+    if (!flujo)
+        return E_POINTER;
+    return Guardar([&] {
+        GuardarBytes(*flujo);
+        if (limpiar)
+            sucio_ = false;
+        return S_OK;
+    });
+}
+
+HRESULT ObjetoControl::GetSizeMax(ULARGE_INTEGER* tamanio) {
+    if (!tamanio)
+        return E_POINTER;
+    tamanio->QuadPart = 0;
+    return Guardar([&] {
+        Ptr<IStream> flujo;
+        Exigir(CreateStreamOnHGlobal(nullptr, TRUE, flujo.Recibir()));
+        GuardarBytes(*flujo.get());
+        return flujo->Seek({}, STREAM_SEEK_CUR, tamanio);
+    });
+}
+
+HRESULT ObjetoControl::InitNew(IStorage*) {
+    return InitNew();
+}
+
+HRESULT ObjetoControl::Load(IStorage* almacen) {
+    if (!almacen)
+        return E_POINTER;
+    return Guardar([&] {
+        Ptr<IStream> flujo;
+        Exigir(almacen->OpenStream(NombreDelFlujo, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0,
+                                   flujo.Recibir()));
+        CargarBytes(*flujo.get());
+        return S_OK;
+    });
+}
+
+HRESULT ObjetoControl::Save(IStorage* almacen, BOOL) {
+    if (!almacen)
+        return E_POINTER;
+    return Guardar([&] {
+        Ptr<IStream> flujo;
+        Exigir(almacen->CreateStream(NombreDelFlujo,
+                                     STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0, 0,
+                                     flujo.Recibir()));
+        GuardarBytes(*flujo.get());
+        return S_OK;
+    });
+}
+
+// The container says when the storage is safe; only then is the control clean.
+HRESULT ObjetoControl::SaveCompleted(IStorage*) {
+    sucio_ = false;
+    return S_OK;
+}
+
+HRESULT ObjetoControl::HandsOffStorage() {
+    return S_OK;
+}
+
+HRESULT ObjetoControl::Load(IPropertyBag* bolsa, IErrorLog* errores) {
+    if (!bolsa)
+        return E_POINTER;
+    return Guardar([&] {
+        BolsaCom propia(bolsa, errores);
+        Restaurar(propia);
+        return S_OK;
+    });
+}
+
+HRESULT ObjetoControl::Save(IPropertyBag* bolsa, BOOL limpiar, BOOL) {
+    if (!bolsa)
+        return E_POINTER;
+    return Guardar([&] {
+        Preparar();
+        BolsaCom propia(bolsa, nullptr);
+        Nucleo()->WriteProperties(propia);
+        if (limpiar)
+            sucio_ = false;
+        return S_OK;
+    });
+}
+
+} // namespace pincela::componente

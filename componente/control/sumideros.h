@@ -1,0 +1,56 @@
+// Connection points: whom a control tells of its events and changes.
+#pragma once
+
+#include "componente/com.h"
+
+#include <ocidl.h>
+
+#include <vector>
+
+namespace pincela::componente {
+
+/// One connection point, part of its control and sharing its life.
+class PuntoDeConexion final : public IConnectionPoint {
+  public:
+    PuntoDeConexion(IUnknown* objeto, IConnectionPointContainer* contenedor, REFIID interfaz)
+        : objeto_(objeto), contenedor_(contenedor), interfaz_(interfaz) {}
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** salida) override;
+    ULONG STDMETHODCALLTYPE AddRef() override { return objeto_->AddRef(); }
+    ULONG STDMETHODCALLTYPE Release() override { return objeto_->Release(); }
+    HRESULT STDMETHODCALLTYPE GetConnectionInterface(IID* iid) override;
+    HRESULT STDMETHODCALLTYPE GetConnectionPointContainer(IConnectionPointContainer** c) override;
+    HRESULT STDMETHODCALLTYPE Advise(IUnknown* sumidero, DWORD* galleta) override;
+    HRESULT STDMETHODCALLTYPE Unadvise(DWORD galleta) override;
+    HRESULT STDMETHODCALLTYPE EnumConnections(IEnumConnections** lista) override;
+
+    REFIID Interfaz() const { return interfaz_; }
+
+    struct Conexion {
+        DWORD galleta;
+        Ptr<IUnknown> sumidero; // the interface of the point, or IDispatch for events
+    };
+
+    /// Calls `f` for each sink connected at this moment; one that leaves meanwhile is skipped.
+    template <class F>
+    void ParaCadaUno(F&& f) {
+        const std::vector<Conexion> copia = conexiones_;
+        for (const Conexion& conexion : copia)
+            if (Esta(conexion.galleta))
+                f(conexion.sumidero.get());
+    }
+
+    bool Vacio() const { return conexiones_.empty(); }
+    void Olvidar();
+
+  private:
+    bool Esta(DWORD galleta) const;
+
+    IUnknown* objeto_;
+    IConnectionPointContainer* contenedor_;
+    IID interfaz_;
+    std::vector<Conexion> conexiones_;
+    DWORD ultimaGalleta_ = 0;
+};
+
+} // namespace pincela::componente

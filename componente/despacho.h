@@ -1,0 +1,322 @@
+// The default interface of an object: virtual table and IDispatch, made from a table of members.
+//
+// InterfazDual is laid out as the binary interface wants it: the pointer to the table of functions
+// first. Each function of the table is generated from one member: it holds the object, converts
+// the arguments, calls the core and turns an error into a status.
+#pragma once
+
+#include "componente/abi.h"
+#include "componente/clases.h"
+#include "componente/errores_com.h"
+
+#include <span>
+
+namespace pincela::componente {
+
+struct InterfazDual;
+
+/// Arguments of a late-bound call in the order of the declaration; null where one was left out.
+struct ArgumentosTardios {
+    static constexpr unsigned Maximo = 12;
+    const VARIANT* valores[Maximo] = {};
+    /// Place of each in the caller's array, to tell which one is wrong.
+    unsigned lugares[Maximo] = {};
+    unsigned equivocado = 0;
+    /// True once all are converted and the member itself runs.
+    bool convertidos = false;
+};
+
+/// A member as late-bound callers reach it.
+struct MiembroTardio {
+    const wchar_t* nombre;
+    DISPID dispid;
+    Tipo tipo;   // of a property
+    WORD admite; // DISPATCH_METHOD, or PROPERTYGET with PROPERTYPUT | PROPERTYPUTREF
+    Categoria categoria;
+    const Parametro* parametros;
+    unsigned cuantos;
+    /// `resultado` may be null.
+    HRESULT (*invocar)
+    (InterfazDual& yo, bool poner, ArgumentosTardios& argumentos, VARIANT* resultado);
+};
+
+struct ClasePublicada {
+    const DatosClase* datos;
+    const void* const* tabla;
+    std::span<const MiembroTardio> miembros;
+
+    const MiembroTardio* Buscar(DISPID dispid) const;
+};
+
+/// Default interface of one object. Lives inside the object.
+struct InterfazDual {
+    const void* const* tabla;
+    IUnknown* objeto; // the object this is part of; not counted
+    void* nucleo;
+    const ClasePublicada* clase;
+    /// Called before the first use of the members when not null: brings to life an object that its
+    /// container never initialised. Throws.
+    void (*preparar)(InterfazDual& yo) = nullptr;
+
+    IDispatch* Com() { return reinterpret_cast<IDispatch*>(this); }
+};
+static_assert(offsetof(InterfazDual, tabla) == 0);
+
+// The seven inherited functions, the same for every class.
+namespace base {
+HRESULT STDMETHODCALLTYPE QueryInterface(InterfazDual*, REFIID, void**);
+ULONG STDMETHODCALLTYPE AddRef(InterfazDual*);
+ULONG STDMETHODCALLTYPE Release(InterfazDual*);
+HRESULT STDMETHODCALLTYPE GetTypeInfoCount(InterfazDual*, UINT*);
+HRESULT STDMETHODCALLTYPE GetTypeInfo(InterfazDual*, UINT, LCID, ITypeInfo**);
+HRESULT STDMETHODCALLTYPE GetIDsOfNames(InterfazDual*, REFIID, LPOLESTR*, UINT, LCID, DISPID*);
+HRESULT STDMETHODCALLTYPE Invoke(InterfazDual*, DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*,
+                                 EXCEPINFO*, UINT*);
+inline constexpr std::size_t Cuantas = 7;
+} // namespace base
+
+namespace detalle {
+
+/// Holds the object for the length of a call: a handler may release the last reference.
+class Sosten {
+  public:
+    explicit Sosten(IUnknown* objeto) : objeto_(objeto) { objeto_->AddRef(); }
+    Sosten(const Sosten&) = delete;
+    Sosten& operator=(const Sosten&) = delete;
+    ~Sosten() { objeto_->Release(); }
+
+  private:
+    IUnknown* objeto_;
+};
+
+template <class F>
+HRESULT Entrar(InterfazDual* yo, F&& f) noexcept {
+    Sosten sosten(yo->objeto);
+    return Proteger(*yo->clase->datos, [&] {
+        if (yo->preparar)
+            yo->preparar(*yo);
+        return f();
+    });
+}
+
+template <class C>
+C& NucleoDe(InterfazDual* yo) {
+    return *static_cast<C*>(yo->nucleo);
+}
+
+/// Value of a late-bound argument; `argumentos.equivocado` names it while it converts.
+template <class P>
+auto TomarArgumento(ArgumentosTardios& argumentos, unsigned i, const Parametro& parametro) {
+    using T = std::remove_cvref_t<P>;
+    argumentos.equivocado = argumentos.lugares[i];
+    Variante valor = argumentos.valores[i] ? DesdeVariant(*argumentos.valores[i]) : Falta{};
+    if (std::holds_alternative<Falta>(valor) && parametro.opcional)
+        valor = parametro.tipoDefecto == VT_BOOL ? Variante{parametro.defecto != 0}
+                                                 : Variante{std::int32_t{parametro.defecto}};
+    return Abi<T>::DeVariante(valor);
+}
+
+/// A record comes by reference inside its variant.
+template <>
+inline auto TomarArgumento<const tRectRedo&>(ArgumentosTardios& argumentos, unsigned i,
+                                             const Parametro&) {
+    argumentos.equivocado = argumentos.lugares[i];
+    const VARIANT* v = argumentos.valores[i];
+    if (v && V_VT(v) == (VT_BYREF | VT_VARIANT))
+        v = V_VARIANTREF(v);
+    // An array of records keeps something else where a record keeps its description.
+    const bool esRegistro = v && (V_VT(v) & ~VT_BYREF) == VT_RECORD && V_RECORDINFO(v);
+    GUID guid{};
+    if (!esRegistro || FAILED(V_RECORDINFO(v)->GetGuid(&guid)) || guid != GuidDeRectRedo ||
+        !V_RECORD(v))
+        Lanzar(NumeroError::TiposNoCoinciden);
+    return *static_cast<const tRectRedo*>(V_RECORD(v));
+}
+
+// Functions of one property.
+template <class Nucleo, class M>
+struct FuncionesDePropiedad {
+    using Valor = typename M::Valor;
+    using Salida = typename Abi<Valor>::Tipo;
+
+    static HRESULT STDMETHODCALLTYPE Leer(InterfazDual* yo, Salida* salida) {
+        if (!salida)
+            return E_POINTER;
+        *salida = Salida{};
+        return Entrar(yo, [&] {
+            *salida = Abi<Valor>::Salir((NucleoDe<Nucleo>(yo).*M::Leer)());
+            return S_OK;
+        });
+    }
+
+    template <class P>
+    static HRESULT STDMETHODCALLTYPE Poner(InterfazDual* yo, ParametroAbi<P> valor) {
+        if (EsPunteroNulo<P>(valor))
+            return E_POINTER;
+        return Entrar(yo, [&] {
+            (NucleoDe<Nucleo>(yo).*M::Poner)(EntrarParametro<P>(valor));
+            return S_OK;
+        });
+    }
+
+    static HRESULT Tardia(InterfazDual& yo, bool poner, ArgumentosTardios& argumentos,
+                          VARIANT* resultado) {
+        auto& nucleo = NucleoDe<Nucleo>(&yo);
+        if (!poner) {
+            argumentos.convertidos = true;
+            const auto valor = Abi<Valor>::AVariante((nucleo.*M::Leer)());
+            if (resultado)
+                HaciaVariant(valor, resultado);
+        } else if constexpr (M::SeEscribe) {
+            auto valor = TomarArgumento<Valor>(argumentos, 0, Parametro{nullptr});
+            argumentos.convertidos = true;
+            (nucleo.*M::Poner)(std::move(valor));
+        }
+        return S_OK;
+    }
+};
+
+// Functions of one method.
+template <class Nucleo, class M, class Argumentos = typename FirmaDe<M::Funcion>::Argumentos>
+struct FuncionesDeMetodo;
+
+template <class Nucleo, class M, class... P>
+struct FuncionesDeMetodo<Nucleo, M, std::tuple<P...>> {
+    using Resultado = typename FirmaDe<M::Funcion>::Resultado;
+
+    static HRESULT STDMETHODCALLTYPE LlamarSinResultado(InterfazDual* yo, ParametroAbi<P>... p) {
+        if ((EsPunteroNulo<P>(p) || ...))
+            return E_POINTER;
+        return Entrar(yo, [&] {
+            (NucleoDe<Nucleo>(yo).*M::Funcion)(EntrarParametro<P>(p)...);
+            return S_OK;
+        });
+    }
+
+    template <class R>
+    static HRESULT STDMETHODCALLTYPE Llamar(InterfazDual* yo, ParametroAbi<P>... p,
+                                            typename Abi<R>::Tipo* salida) {
+        if (!salida)
+            return E_POINTER;
+        *salida = typename Abi<R>::Tipo{};
+        if ((EsPunteroNulo<P>(p) || ...))
+            return E_POINTER;
+        return Entrar(yo, [&] {
+            *salida = Abi<R>::Salir((NucleoDe<Nucleo>(yo).*M::Funcion)(EntrarParametro<P>(p)...));
+            return S_OK;
+        });
+    }
+
+    template <class Descripcion>
+    static HRESULT TardiaDe(const Descripcion& m, InterfazDual& yo, ArgumentosTardios& argumentos,
+                            VARIANT* resultado) {
+        return [&]<std::size_t... I>(std::index_sequence<I...>) {
+            // Braces convert the arguments in order, whatever the order of a call would be.
+            std::tuple<decltype(TomarArgumento<P>(argumentos, I, m.parametros[I]))...> valores{
+                TomarArgumento<P>(argumentos, static_cast<unsigned>(I), m.parametros[I])...};
+            argumentos.convertidos = true;
+            auto& nucleo = NucleoDe<Nucleo>(&yo);
+            if constexpr (std::is_void_v<Resultado>) {
+                (nucleo.*M::Funcion)(std::get<I>(valores)...);
+            } else {
+                const auto valor =
+                    Abi<Resultado>::AVariante((nucleo.*M::Funcion)(std::get<I>(valores)...));
+                if (resultado)
+                    HaciaVariant(valor, resultado);
+            }
+            return S_OK;
+        }
+        (std::make_index_sequence<sizeof...(P)>{});
+    }
+};
+
+template <class Tabla, std::size_t I>
+HRESULT TardiaDeMetodo(InterfazDual& yo, bool, ArgumentosTardios& argumentos, VARIANT* resultado) {
+    constexpr auto& m = std::get<I>(Tabla::miembros);
+    using M = std::remove_cvref_t<decltype(m)>;
+    return FuncionesDeMetodo<typename Tabla::Nucleo, M>::TardiaDe(m, yo, argumentos, resultado);
+}
+
+template <class Tabla>
+constexpr std::size_t CuantasRanuras() {
+    std::size_t n = 0;
+    ParaCadaMiembro<Tabla>([&]<class M>(const M&, auto) { n += M::Ranuras; });
+    return n;
+}
+
+template <class F>
+const void* Funcion(F* f) {
+    return reinterpret_cast<const void*>(f);
+}
+
+template <class Tabla>
+struct TablaDeFunciones {
+    const void* funciones[base::Cuantas + CuantasRanuras<Tabla>()];
+
+    TablaDeFunciones() {
+        const void* heredadas[] = {Funcion(base::QueryInterface), Funcion(base::AddRef),
+                                   Funcion(base::Release),        Funcion(base::GetTypeInfoCount),
+                                   Funcion(base::GetTypeInfo),    Funcion(base::GetIDsOfNames),
+                                   Funcion(base::Invoke)};
+        const void** siguiente = std::copy(std::begin(heredadas), std::end(heredadas), funciones);
+        ParaCadaMiembro<Tabla>([&]<class M>(const M&, auto) {
+            using Nucleo = typename Tabla::Nucleo;
+            if constexpr (M::TieneValor) {
+                using F = FuncionesDePropiedad<Nucleo, M>;
+                *siguiente++ = Funcion(F::Leer);
+                if constexpr (M::SeEscribe) {
+                    using P = std::tuple_element_t<0, typename FirmaDe<M::Poner>::Argumentos>;
+                    *siguiente++ = Funcion(F::template Poner<P>);
+                }
+            } else {
+                using F = FuncionesDeMetodo<Nucleo, M>;
+                if constexpr (std::is_void_v<typename F::Resultado>)
+                    *siguiente++ = Funcion(F::LlamarSinResultado);
+                else
+                    *siguiente++ = Funcion(F::template Llamar<typename F::Resultado>);
+            }
+        });
+    }
+};
+
+template <class Tabla, std::size_t I>
+constexpr MiembroTardio DescribirTardio() {
+    constexpr auto& m = std::get<I>(Tabla::miembros);
+    using M = std::remove_cvref_t<decltype(m)>;
+    if constexpr (M::TieneValor) {
+        constexpr WORD poner =
+            M::SeEscribe ? DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF : WORD{0};
+        return {m.rasgos.nombre,
+                DispidDe<Tabla, I>(),
+                TipoDe<typename M::Valor>(),
+                static_cast<WORD>(DISPATCH_PROPERTYGET | poner),
+                m.rasgos.categoria,
+                nullptr,
+                0,
+                &FuncionesDePropiedad<typename Tabla::Nucleo, M>::Tardia};
+    } else {
+        return {m.rasgos.nombre,    DispidDe<Tabla, I>(), {},        DISPATCH_METHOD,
+                m.rasgos.categoria, m.parametros.data(),  M::Aridad, &TardiaDeMetodo<Tabla, I>};
+    }
+}
+
+template <class Tabla>
+constexpr auto DescribirTardios() {
+    return []<std::size_t... I>(std::index_sequence<I...>) {
+        return std::array<MiembroTardio, sizeof...(I)>{DescribirTardio<Tabla, I>()...};
+    }
+    (std::make_index_sequence<std::tuple_size_v<std::remove_cvref_t<decltype(Tabla::miembros)>>>{});
+}
+
+} // namespace detalle
+
+/// The class as objects of it are published; one for the process.
+template <class Tabla>
+const ClasePublicada& Publicar(const DatosClase& datos) {
+    static const detalle::TablaDeFunciones<Tabla> funciones;
+    static constexpr auto miembros = detalle::DescribirTardios<Tabla>();
+    static const ClasePublicada clase{&datos, funciones.funciones, miembros};
+    return clase;
+}
+
+} // namespace pincela::componente

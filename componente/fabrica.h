@@ -1,0 +1,12 @@
+// Class factories.
+#pragma once
+
+#include <windows.h>
+
+namespace pincela::componente {
+
+/// Factory of a published class; CLASS_E_CLASSNOTAVAILABLE for any other and for a class whose
+/// behaviour is not part of the component.
+HRESULT DarFabrica(REFCLSID clase, REFIID iid, void** salida);
+
+} // namespace pincela::componente

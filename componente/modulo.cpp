@@ -1,0 +1,89 @@
+#include "componente/modulo.h"
+
+#include "componente/fabrica.h"
+
+#include <atomic>
+#include <mutex>
+#include <string>
+
+namespace pincela::componente {
+
+namespace {
+
+HINSTANCE modulo = nullptr;
+std::atomic<long> bloqueos{0};
+
+std::mutex guardaBiblioteca;
+ITypeLib* biblioteca = nullptr; // counted; released with the last object
+
+} // namespace
+
+HINSTANCE Modulo() {
+    return modulo;
+}
+
+void BloquearModulo() {
+    ++bloqueos;
+}
+
+void DesbloquearModulo() {
+    if (--bloqueos != 0)
+        return;
+    ITypeLib* vieja = nullptr;
+    {
+        std::lock_guard guarda(guardaBiblioteca);
+        vieja = std::exchange(biblioteca, nullptr);
+    }
+    if (vieja)
+        vieja->Release();
+}
+
+bool ModuloOcioso() {
+    return bloqueos == 0;
+}
+
+HRESULT BibliotecaDeTipos(ITypeLib** salida) {
+    *salida = nullptr;
+    std::lock_guard guarda(guardaBiblioteca);
+    if (!biblioteca) {
+        wchar_t ruta[MAX_PATH];
+        const DWORD largo = GetModuleFileNameW(modulo, ruta, MAX_PATH);
+        if (largo == 0 || largo == MAX_PATH)
+            return TYPE_E_CANTLOADLIBRARY;
+        // The library of this very file, whatever the registry says.
+        const HRESULT estado = LoadTypeLibEx(ruta, REGKIND_NONE, &biblioteca);
+        if (FAILED(estado))
+            return estado;
+    }
+    biblioteca->AddRef();
+    *salida = biblioteca;
+    return S_OK;
+}
+
+HRESULT InformacionDe(REFGUID guid, ITypeInfo** info) {
+    *info = nullptr;
+    Ptr<ITypeLib> propia;
+    const HRESULT estado = BibliotecaDeTipos(propia.Recibir());
+    return FAILED(estado) ? estado : propia->GetTypeInfoOfGuid(guid, info);
+}
+
+} // namespace pincela::componente
+
+extern "C" {
+
+BOOL WINAPI DllMain(HINSTANCE instancia, DWORD motivo, void*) {
+    if (motivo == DLL_PROCESS_ATTACH) {
+        pincela::componente::modulo = instancia;
+        DisableThreadLibraryCalls(instancia);
+    }
+    return TRUE;
+}
+
+HRESULT WINAPI DllGetClassObject(REFCLSID clase, REFIID iid, void** salida) {
+    return pincela::componente::DarFabrica(clase, iid, salida);
+}
+
+HRESULT WINAPI DllCanUnloadNow() {
+    return pincela::componente::ModuloOcioso() ? S_OK : S_FALSE;
+}
+}

@@ -1,0 +1,14 @@
+// Size of the component file against what a download should not exceed.
+#include "medidas/medida.h"
+
+namespace medidas {
+
+bool MedirTamanio() {
+    constexpr double limite = 600.0 * 1024;
+    WIN32_FILE_ATTRIBUTE_DATA datos{};
+    if (!GetFileAttributesExW(RutaComponente().c_str(), GetFileExInfoStandard, &datos))
+        return false;
+    return Informar("tamanio", datos.nFileSizeLow / limite, 1.0);
+}
+
+} // namespace medidas

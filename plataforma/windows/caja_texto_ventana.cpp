@@ -1,0 +1,249 @@
+// The edit window: its making and its messages.
+#include "plataforma/windows/accesibilidad.h"
+#include "plataforma/windows/caja_texto_windows.h"
+#include "plataforma/windows/colores.h"
+#include "plataforma/windows/foco.h"
+#include "plataforma/windows/globos.h"
+#include "plataforma/windows/raton.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+namespace pincela::windows {
+
+namespace {
+
+constexpr UINT_PTR Subclase = 1;
+
+bool EsDeRaton(UINT mensaje) {
+    return mensaje >= WM_MOUSEFIRST && mensaje <= WM_MBUTTONDBLCLK;
+}
+
+} // namespace
+
+DWORD CajaTextoWindows::Estilo() const {
+    constexpr DWORD alineaciones[] = {ES_LEFT, ES_RIGHT, ES_CENTER};
+    return WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | alineaciones[alineacion_] |
+           (multilinea_ ? ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN : ES_AUTOHSCROLL) |
+           (bloqueada_ ? ES_READONLY : 0) | (apariencia_ == 1 ? 0 : WS_BORDER) |
+           (habilitada_ ? 0 : WS_DISABLED);
+}
+
+void CajaTextoWindows::CrearVentana() {
+    if (ventana_ || !nucleo_.ventana)
+        return;
+    const RECT r = Rectangulo();
+    ventana_ = ::CreateWindowExW(apariencia_ == 1 ? WS_EX_CLIENTEDGE : 0, L"EDIT", nullptr,
+                                 Estilo(), r.left, r.top, r.right - r.left, r.bottom - r.top,
+                                 nucleo_.ventana, nullptr, ModuloPropio(), nullptr);
+    if (!ventana_)
+        return;
+    ::SendMessageW(ventana_, EM_SETLIMITTEXT, static_cast<WPARAM>(maximo_), 0);
+    PonFuenteEnVentana();
+    callada_ = true;
+    ::SetWindowTextW(ventana_, reinterpret_cast<const wchar_t*>(texto_.c_str()));
+    callada_ = false;
+    ::SendMessageW(ventana_, EM_SETSEL, static_cast<WPARAM>(inicio_), inicio_ + largo_);
+    if (!nombre_.empty())
+        NombrarVentana(ventana_, nombre_);
+    ::SetWindowSubclass(ventana_, &CajaTextoWindows::Procedimiento, Subclase,
+                        reinterpret_cast<DWORD_PTR>(this));
+}
+
+void CajaTextoWindows::SoltarVentana() {
+    if (!ventana_)
+        return;
+    const Texto texto = Text();
+    const std::int32_t inicio = SelStart(), largo = SelLength();
+    texto_ = texto;
+    inicio_ = inicio;
+    largo_ = largo;
+    ::RemoveWindowSubclass(ventana_, &CajaTextoWindows::Procedimiento, Subclase);
+    ventana_ = nullptr;
+    manija_.reset();
+    izquierdoAbajo_ = false;
+}
+
+// Some looks are settled when an edit window is made. The new one takes over what the old one had,
+// the focus included, and nobody is told.
+void CajaTextoWindows::Rehacer() {
+    const HWND vieja = ventana_;
+    if (!vieja)
+        return;
+    const bool conFoco = EsActivo();
+    SoltarVentana();
+    CrearVentana();
+    callada_ = true;
+    if (conFoco && ventana_)
+        ::SetFocus(ventana_);
+    callada_ = false;
+    ::DestroyWindow(vieja);
+}
+
+void CajaTextoWindows::Orden(WORD codigo) {
+    if (codigo != EN_CHANGE || callada_)
+        return;
+    inicioPedido_ = largoPedido_ = -1; // what the user types settles the selection
+    nucleo_.VistaCambiada();
+    Decir([](OyenteEdicion& oyente) { oyente.Change(); });
+}
+
+HBRUSH CajaTextoWindows::Colorear(HDC dc) {
+    const COLORREF fondo = Resolver(colorFondo_);
+    ::SetTextColor(dc, Resolver(colorLetra_));
+    ::SetBkColor(dc, fondo);
+    if (fondo != colorPincel_ || !pincel_) {
+        pincel_.Poner(::CreateSolidBrush(fondo));
+        colorPincel_ = fondo;
+    }
+    return pincel_.get();
+}
+
+/// Tells the listener; false when the field did not survive.
+template <class Accion>
+bool CajaTextoWindows::Decir(Accion&& accion) {
+    const std::weak_ptr<const void> testigo = vida_;
+    if (OyenteEdicion* oyente = oyente_)
+        Proteger(nucleo_.sitio, [&] { accion(*oyente); });
+    return !testigo.expired();
+}
+
+LRESULT CALLBACK CajaTextoWindows::Procedimiento(HWND ventana, UINT mensaje, WPARAM w, LPARAM l,
+                                                 UINT_PTR, DWORD_PTR yo) noexcept {
+    auto& caja = *reinterpret_cast<CajaTextoWindows*>(yo);
+    if (mensaje == WM_NCDESTROY) {
+        caja.SoltarVentana();
+        return ::DefSubclassProc(ventana, mensaje, w, l);
+    }
+    return caja.nucleo_.cerrando ? ::DefSubclassProc(ventana, mensaje, w, l)
+                                 : caja.Recibir(mensaje, w, l);
+}
+
+LRESULT CajaTextoWindows::Recibir(UINT mensaje, WPARAM w, LPARAM l) noexcept {
+    SitioControl& sitio = nucleo_.sitio;
+    const Sosten sosten(sitio);
+    const std::weak_ptr<const void> testigo = vida_;
+    const HWND ventana = ventana_;
+    LRESULT resultado = 0;
+    bool terminado = false;
+    Proteger(sitio, [&] { terminado = sitio.Mensaje(ventana, mensaje, w, l, &resultado); });
+    if (!terminado && !testigo.expired())
+        Proteger(sitio, [&] { terminado = Procesar(mensaje, w, l, resultado); });
+    if (terminado || !::IsWindow(ventana))
+        return resultado;
+    return ::DefSubclassProc(ventana, mensaje, w, l);
+}
+
+bool CajaTextoWindows::Procesar(UINT mensaje, WPARAM& w, LPARAM l, LRESULT& resultado) {
+    const HWND ventana = ventana_;
+    if (nucleo_.sitio.EntradaCongelada()) {
+        resultado = HTTRANSPARENT; // a designer drags the control by any part of it
+        return mensaje == WM_NCHITTEST;
+    }
+    switch (mensaje) {
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+    case WM_SYSKEYDOWN:
+    case WM_SYSKEYUP:
+    case WM_CHAR:
+        return ProcesarTecla(mensaje, w);
+    case WM_GETDLGCODE: {
+        // Enter is the control's even where a dialog has a default button.
+        const auto* pendiente = reinterpret_cast<const MSG*>(l);
+        resultado = ::DefSubclassProc(ventana, mensaje, w, l);
+        if (pendiente && pendiente->wParam == VK_RETURN)
+            resultado |= DLGC_WANTMESSAGE;
+        return true;
+    }
+    case WM_SETFOCUS:
+        resultado = ::DefSubclassProc(ventana, mensaje, w, l);
+        if (!callada_ && FocoEntra(nucleo_))
+            Decir([](OyenteEdicion& oyente) { oyente.GotFocus(); });
+        return true;
+    case WM_KILLFOCUS: {
+        resultado = ::DefSubclassProc(ventana, mensaje, w, l);
+        Nucleo& nucleo = nucleo_;
+        const auto testigo = nucleo.Testigo();
+        if (!callada_)
+            Decir([](OyenteEdicion& oyente) { oyente.LostFocus(); });
+        if (!testigo.expired())
+            FocoSale(nucleo, reinterpret_cast<HWND>(w));
+        return true;
+    }
+    case WM_CAPTURECHANGED:
+        izquierdoAbajo_ = false;
+        return false;
+    default:
+        if (EsDeRaton(mensaje))
+            ProcesarRaton(mensaje, w, l);
+        return false;
+    }
+}
+
+bool CajaTextoWindows::ProcesarTecla(UINT mensaje, WPARAM& w) {
+    auto codigo = static_cast<std::int16_t>(w);
+    const std::int16_t shift = ShiftActual();
+    const HWND ventana = ventana_;
+    const bool baja = mensaje == WM_KEYDOWN || mensaje == WM_SYSKEYDOWN;
+    Decir([&](OyenteEdicion& oyente) {
+        if (mensaje == WM_CHAR)
+            oyente.KeyPress(codigo);
+        else if (baja)
+            oyente.KeyDown(codigo, shift);
+        else
+            oyente.KeyUp(codigo, shift);
+    });
+    w = static_cast<std::uint16_t>(codigo);
+    if (codigo == 0 && baja && ::IsWindow(ventana)) {
+        MSG letra; // the character of a dropped key is waiting already
+        ::PeekMessageW(&letra, ventana, WM_CHAR, WM_CHAR, PM_REMOVE);
+    }
+    if (codigo == 0)
+        return true;
+    // A single-line field has no use for these and would beep.
+    return mensaje == WM_CHAR && !(::GetWindowLongW(ventana, GWL_STYLE) & ES_MULTILINE) &&
+           (codigo == VK_RETURN || codigo == VK_TAB || codigo == VK_ESCAPE);
+}
+
+void CajaTextoWindows::ProcesarRaton(UINT mensaje, WPARAM w, LPARAM l) {
+    const std::weak_ptr<const void> testigo = vida_;
+    if (nucleo_.globos) {
+        POINT punto{GET_X_LPARAM(l), GET_Y_LPARAM(l)};
+        ::MapWindowPoints(ventana_, nucleo_.ventana, &punto, 1);
+        nucleo_.globos->Mensaje(mensaje, w, MAKELPARAM(punto.x, punto.y));
+    }
+    const auto x = static_cast<float>(GET_X_LPARAM(l)), y = static_cast<float>(GET_Y_LPARAM(l));
+    const std::int16_t shift = ShiftDeRaton(w);
+    const std::int16_t boton = BotonDeMensaje(mensaje);
+    switch (mensaje) {
+    case WM_MOUSEMOVE:
+        Decir([&](OyenteEdicion& o) { o.MouseMove(BotonesAbajo(w), shift, x, y); });
+        return;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+        izquierdoAbajo_ = true;
+        if (!nucleo_.EsVentanaPropia(::GetFocus()))
+            Proteger(nucleo_.sitio, [this] { nucleo_.sitio.PedirFoco(); });
+        if (testigo.expired())
+            return;
+        [[fallthrough]];
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONDBLCLK:
+    case WM_MBUTTONDOWN:
+    case WM_MBUTTONDBLCLK:
+        Decir([&](OyenteEdicion& o) { o.MouseDown(boton, shift, x, y); });
+        return;
+    default:
+        break;
+    }
+    RECT cliente{};
+    ::GetClientRect(ventana_, &cliente);
+    const bool click = mensaje == WM_LBUTTONUP && izquierdoAbajo_ &&
+                       ::PtInRect(&cliente, POINT{GET_X_LPARAM(l), GET_Y_LPARAM(l)});
+    if (mensaje == WM_LBUTTONUP)
+        izquierdoAbajo_ = false;
+    if (Decir([&](OyenteEdicion& o) { o.MouseUp(boton, shift, x, y); }) && click)
+        Decir([](OyenteEdicion& o) { o.Click(); });
+}
+
+} // namespace pincela::windows

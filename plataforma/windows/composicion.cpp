@@ -1,0 +1,131 @@
+#include "plataforma/windows/composicion.h"
+
+#include "plataforma/windows/colores.h"
+#include "plataforma/windows/mascara.h"
+#include "plataforma/windows/modulo.h"
+
+namespace pincela::windows {
+
+namespace {
+
+void CopiarImagen(ImagenDib& imagen, SIZE tamano, const Destino& destino) {
+    const HDC origen = imagen.Dc();
+    if (!origen)
+        return;
+    if (destino.TamanoNatural()) {
+        ::BitBlt(destino.dc, destino.X(0), destino.Y(0), tamano.cx, tamano.cy, origen, 0, 0,
+                 SRCCOPY);
+        return;
+    }
+    // Bits rather than a context as the source: metafiles and printers take them as they are.
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = imagen.Ancho();
+    info.bmiHeader.biHeight = -imagen.Alto();
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    const RECT r = destino.Rectangulo(0, 0, tamano.cx, tamano.cy);
+    EstadoDc estado(destino.dc);
+    ::SetStretchBltMode(destino.dc, HALFTONE);
+    ::SetBrushOrgEx(destino.dc, 0, 0, nullptr);
+    ::StretchDIBits(destino.dc, r.left, r.top, r.right - r.left, r.bottom - r.top, 0, 0, tamano.cx,
+                    tamano.cy, imagen.Pixeles(), &info, DIB_RGB_COLORS, SRCCOPY);
+}
+
+void ComponerFondo(SuperficieWindows& superficie, const Destino& destino) {
+    const SIZE tamano = superficie.Tamano();
+    ImagenDib& imagen = superficie.lienzo().imagen();
+    if (!superficie.Transparente()) {
+        if (imagen.Existe())
+            CopiarImagen(imagen, tamano, destino);
+        else
+            Llenar(destino.dc, destino.Rectangulo(0, 0, tamano.cx, tamano.cy),
+                   Resolver(imagen.Fondo()));
+        return;
+    }
+    if (!imagen.Existe())
+        return;
+    EstadoDc estado(destino.dc);
+    if (RecortarALoDibujado(imagen, tamano, destino))
+        CopiarImagen(imagen, tamano, destino);
+}
+
+void CopiarEntera(HDC destino, HDC origen, const RECT& r) {
+    ::BitBlt(destino, r.left, r.top, r.right - r.left, r.bottom - r.top, origen, r.left, r.top,
+             SRCCOPY);
+}
+
+} // namespace
+
+void Componer(const Nucleo& nucleo, SuperficieWindows& superficie, const Destino& destino) {
+    ComponerFondo(superficie, destino);
+    nucleo.escena.Dibujar(destino);
+}
+
+void DibujarPadre(HWND ventana, HDC dc) {
+    const HWND padre = ::GetParent(ventana);
+    if (!padre)
+        return;
+    POINT origen{0, 0};
+    ::MapWindowPoints(ventana, padre, &origen, 1);
+    EstadoDc estado(dc);
+    ::OffsetViewportOrgEx(dc, -origen.x, -origen.y, nullptr);
+    ::SendMessageW(padre, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
+    ::SendMessageW(padre, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
+}
+
+void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie) {
+    PAINTSTRUCT pintura;
+    const HWND ventana = nucleo.ventana;
+    const HDC dc = ::BeginPaint(ventana, &pintura);
+    if (!dc)
+        return;
+    nucleo.VistaDibujada();
+    const RECT& sucio = pintura.rcPaint;
+    const auto testigo = nucleo.Testigo();
+    if (sucio.right > sucio.left && sucio.bottom > sucio.top) {
+        const PrestamoDeFondo fondo(dc, {sucio.right, sucio.bottom});
+        Destino destino;
+        destino.dc = fondo.dc() ? fondo.dc() : dc;
+        destino.enVentana = true;
+        if (fondo.dc())
+            ::IntersectClipRect(fondo.dc(), sucio.left, sucio.top, sucio.right, sucio.bottom);
+        if (superficie.Transparente())
+            DibujarPadre(ventana, destino.dc);
+        if (!testigo.expired())
+            Componer(nucleo, superficie, destino);
+        if (fondo.dc())
+            CopiarEntera(dc, fondo.dc(), sucio);
+    }
+    ::EndPaint(ventana, &pintura);
+}
+
+void ImprimirVentana(Nucleo& nucleo, SuperficieWindows& superficie, HDC dc, LPARAM banderas,
+                     bool conHijas) {
+    Destino destino;
+    destino.dc = dc;
+    destino.enVentana = true;
+    {
+        EstadoDc estado(dc);
+        const SIZE tamano = superficie.Tamano();
+        ::IntersectClipRect(dc, 0, 0, tamano.cx, tamano.cy);
+        if (superficie.Transparente() && conHijas)
+            DibujarPadre(nucleo.ventana, dc);
+        Componer(nucleo, superficie, destino);
+    }
+    if (!conHijas || !(banderas & PRF_CHILDREN))
+        return;
+    for (HWND hija = ::GetWindow(nucleo.ventana, GW_CHILD); hija;
+         hija = ::GetWindow(hija, GW_HWNDNEXT)) {
+        if (!::IsWindowVisible(hija))
+            continue;
+        POINT origen{0, 0};
+        ::MapWindowPoints(hija, nucleo.ventana, &origen, 1);
+        EstadoDc estado(dc);
+        ::OffsetViewportOrgEx(dc, origen.x, origen.y, nullptr);
+        ::SendMessageW(hija, WM_PRINT, reinterpret_cast<WPARAM>(dc), banderas);
+    }
+}
+
+} // namespace pincela::windows

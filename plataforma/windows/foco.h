@@ -1,0 +1,14 @@
+// The input focus of a control: one for its window and all of its edit fields.
+#pragma once
+
+#include "plataforma/windows/nucleo.h"
+
+namespace pincela::windows {
+
+/// A window of the control got the focus; moving among them is no news. False when the
+/// environment is gone afterwards.
+bool FocoEntra(Nucleo& nucleo);
+/// A window of the control lost the focus to `siguiente`.
+bool FocoSale(Nucleo& nucleo, HWND siguiente);
+
+} // namespace pincela::windows

@@ -1,0 +1,24 @@
+#include "plataforma/windows/nucleo.h"
+
+namespace pincela::windows {
+
+void Nucleo::VistaCambiada() {
+    if (cerrando)
+        return;
+    if (ventana && !invalidada_) {
+        invalidada_ = true;
+        ::InvalidateRect(ventana, nullptr, FALSE);
+    }
+    if (!avisada_) {
+        avisada_ = true;
+        // Who was told may have ended everything; who was not left it as it was.
+        if (!sitio.VistaCambiada())
+            avisada_ = false;
+    }
+}
+
+bool Nucleo::EsVentanaPropia(HWND otra) const {
+    return otra && ventana && (otra == ventana || ::IsChild(ventana, otra));
+}
+
+} // namespace pincela::windows

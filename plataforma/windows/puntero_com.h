@@ -1,0 +1,69 @@
+// Owning interface pointer.
+#pragma once
+
+#include <windows.h>
+
+#include <unknwn.h>
+
+#include <cstddef>
+#include <utility>
+
+namespace pincela::windows {
+
+/// Counted reference to an object of the platform. The member is cleared before the old object is
+/// released, since a release may call back.
+template <class T>
+class PunteroCom {
+  public:
+    PunteroCom() = default;
+    PunteroCom(std::nullptr_t) {}
+    /// Takes a reference of its own.
+    explicit PunteroCom(T* p) : p_(p) {
+        if (p_)
+            p_->AddRef();
+    }
+    PunteroCom(const PunteroCom& otro) : PunteroCom(otro.p_) {}
+    PunteroCom(PunteroCom&& otro) noexcept : p_(std::exchange(otro.p_, nullptr)) {}
+    PunteroCom& operator=(PunteroCom otro) noexcept {
+        std::swap(p_, otro.p_);
+        return *this;
+    }
+    ~PunteroCom() {
+        if (p_)
+            p_->Release();
+    }
+
+    /// Takes over a reference the caller holds.
+    static PunteroCom Adoptar(T* p) {
+        PunteroCom r;
+        r.p_ = p;
+        return r;
+    }
+    template <class U>
+    static PunteroCom De(U* objeto, REFIID iid = __uuidof(T)) {
+        PunteroCom r;
+        if (objeto)
+            objeto->QueryInterface(iid, reinterpret_cast<void**>(&r.p_));
+        return r;
+    }
+
+    void Soltar() { PunteroCom().swap(*this); }
+    void swap(PunteroCom& otro) noexcept { std::swap(p_, otro.p_); }
+    T* Ceder() { return std::exchange(p_, nullptr); }
+
+    T* get() const { return p_; }
+    T* operator->() const { return p_; }
+    explicit operator bool() const { return p_ != nullptr; }
+
+    /// For calls that return a reference through a parameter; what was held is released first.
+    T** Recibir() {
+        Soltar();
+        return &p_;
+    }
+    void** RecibirVacio() { return reinterpret_cast<void**>(Recibir()); }
+
+  private:
+    T* p_ = nullptr;
+};
+
+} // namespace pincela::windows

@@ -1,0 +1,35 @@
+#include "plataforma/windows/superficie_windows.h"
+
+namespace pincela::windows {
+
+void SuperficieWindows::PonBackStyle(std::int16_t estilo) {
+    if (estilo == estilo_)
+        return;
+    estilo_ = estilo;
+    Cambiado();
+}
+
+void SuperficieWindows::PonAccessKeys(const Texto& teclas) {
+    if (teclas == teclas_)
+        return;
+    teclas_ = teclas;
+    nucleo_.sitio.AccessKeysChanged();
+}
+
+void SuperficieWindows::PonTamano(SIZE tamano) {
+    const SIZE actual = Tamano();
+    if (tamano.cx == actual.cx && tamano.cy == actual.cy)
+        return;
+    lienzo_.PonTamano(tamano);
+    Cambiado();
+}
+
+void SuperficieWindows::Refresh() {
+    Cambiado();
+    if (!nucleo_.ventana)
+        return;
+    ::InvalidateRect(nucleo_.ventana, nullptr, FALSE);
+    ::UpdateWindow(nucleo_.ventana);
+}
+
+} // namespace pincela::windows

@@ -1,0 +1,250 @@
+#include "plataforma/windows/ventana_superficie.h"
+
+#include "plataforma/windows/campo_edicion.h"
+#include "plataforma/windows/composicion.h"
+#include "plataforma/windows/foco.h"
+#include "plataforma/windows/modulo.h"
+#include "plataforma/windows/puntero.h"
+
+namespace pincela::windows {
+
+namespace {
+
+constexpr wchar_t NombreDeClase[] = L"PincelaSuperficie";
+
+// Registered with the first window, withdrawn when the module is unloaded.
+class ClaseDeVentana {
+  public:
+    explicit ClaseDeVentana(WNDPROC procedimiento) {
+        WNDCLASSEXW clase{};
+        clase.cbSize = sizeof clase;
+        clase.style = CS_DBLCLKS;
+        clase.lpfnWndProc = procedimiento;
+        clase.hInstance = ModuloPropio();
+        clase.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+        clase.lpszClassName = NombreDeClase;
+        registrada_ = ::RegisterClassExW(&clase) != 0;
+    }
+    ClaseDeVentana(const ClaseDeVentana&) = delete;
+    ClaseDeVentana& operator=(const ClaseDeVentana&) = delete;
+    ~ClaseDeVentana() {
+        if (registrada_)
+            ::UnregisterClassW(NombreDeClase, ModuloPropio());
+    }
+
+  private:
+    bool registrada_;
+};
+
+bool EsDeEntrada(UINT mensaje) {
+    return (mensaje >= WM_MOUSEFIRST && mensaje <= WM_MBUTTONDBLCLK) ||
+           (mensaje >= WM_KEYFIRST && mensaje <= WM_KEYLAST) || mensaje == WM_MOUSEACTIVATE ||
+           mensaje == WM_SETCURSOR || mensaje == WM_GETDLGCODE;
+}
+
+// TAB and the arrows stay with the container; characters and Enter are the control's.
+LRESULT CodigoDeDialogo(LPARAM l) {
+    const auto* pendiente = reinterpret_cast<const MSG*>(l);
+    const bool enter = pendiente && pendiente->wParam == VK_RETURN &&
+                       (pendiente->message == WM_KEYDOWN || pendiente->message == WM_CHAR);
+    return DLGC_WANTCHARS | (enter ? DLGC_WANTMESSAGE : 0);
+}
+
+} // namespace
+
+HWND VentanaSuperficie::Crear(HWND padre, const RECT& lugar) {
+    static const ClaseDeVentana clase(&VentanaSuperficie::Procedimiento);
+    if (nucleo_.ventana)
+        Destruir();
+    superficie_.PonTamano({lugar.right - lugar.left, lugar.bottom - lugar.top});
+    const auto testigo = nucleo_.Testigo();
+    const HWND ventana =
+        ::CreateWindowExW(0, NombreDeClase, nullptr, WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN,
+                          lugar.left, lugar.top, lugar.right - lugar.left, lugar.bottom - lugar.top,
+                          padre, nullptr, ModuloPropio(), this);
+    if (!ventana || testigo.expired())
+        return nullptr;
+    const auto campos = nucleo_.campos;
+    for (CampoEdicion* campo : campos)
+        campo->CrearVentana();
+    ::SetWindowPos(ventana, HWND_TOP, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    return testigo.expired() ? nullptr : nucleo_.ventana;
+}
+
+void VentanaSuperficie::Destruir() {
+    if (nucleo_.ventana)
+        ::DestroyWindow(nucleo_.ventana);
+}
+
+HWND VentanaSuperficie::DeFoco() const {
+    for (const CampoEdicion* campo : nucleo_.campos)
+        if (campo->ventana() && campo->Habilitado())
+            return campo->ventana();
+    return nucleo_.ventana;
+}
+
+LRESULT CALLBACK VentanaSuperficie::Procedimiento(HWND ventana, UINT mensaje, WPARAM w,
+                                                  LPARAM l) noexcept {
+    if (mensaje == WM_NCCREATE) {
+        const auto* creacion = reinterpret_cast<const CREATESTRUCTW*>(l);
+        ::SetWindowLongPtrW(ventana, GWLP_USERDATA,
+                            reinterpret_cast<LONG_PTR>(creacion->lpCreateParams));
+        static_cast<VentanaSuperficie*>(creacion->lpCreateParams)->nucleo_.ventana = ventana;
+    }
+    auto* yo = reinterpret_cast<VentanaSuperficie*>(::GetWindowLongPtrW(ventana, GWLP_USERDATA));
+    return yo ? yo->Recibir(ventana, mensaje, w, l) : ::DefWindowProcW(ventana, mensaje, w, l);
+}
+
+LRESULT VentanaSuperficie::Recibir(HWND ventana, UINT mensaje, WPARAM w, LPARAM l) noexcept {
+    if (mensaje == WM_NCDESTROY)
+        ::SetWindowLongPtrW(ventana, GWLP_USERDATA, 0);
+    if (nucleo_.cerrando) { // the object may be half gone: nobody may be told anything
+        if (mensaje == WM_DESTROY)
+            Perdida();
+        return ::DefWindowProcW(ventana, mensaje, w, l);
+    }
+    SitioControl& sitio = nucleo_.sitio;
+    const Sosten sosten(sitio);
+    const auto testigo = nucleo_.Testigo();
+    LRESULT resultado = 0;
+    bool terminado = false;
+    Proteger(sitio, [&] { terminado = sitio.Mensaje(ventana, mensaje, w, l, &resultado); });
+    if (!terminado && !testigo.expired())
+        Proteger(sitio, [&] { terminado = Procesar(mensaje, w, l, resultado); });
+    return terminado ? resultado : ::DefWindowProcW(ventana, mensaje, w, l);
+}
+
+bool VentanaSuperficie::Procesar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado) {
+    resultado = 0;
+    if (EsDeEntrada(mensaje))
+        return !nucleo_.sitio.EntradaCongelada() && ProcesarEntrada(mensaje, w, l, resultado);
+    switch (mensaje) {
+    case WM_ERASEBKGND:
+        resultado = 1; // painting covers everything
+        return true;
+    case WM_PAINT:
+        PintarVentana(nucleo_, superficie_);
+        nucleo_.Notificar([](ControlUsuario& control) { control.Paint(); });
+        return true;
+    case WM_PRINT:
+    case WM_PRINTCLIENT:
+        ImprimirVentana(nucleo_, superficie_, reinterpret_cast<HDC>(w), l, mensaje == WM_PRINT);
+        return true;
+    case WM_SIZE:
+        CambioDeTamano({LOWORD(l), HIWORD(l)});
+        return true;
+    case WM_SETFOCUS:
+        FocoRecibido();
+        return true;
+    case WM_KILLFOCUS:
+        FocoSale(nucleo_, reinterpret_cast<HWND>(w));
+        return true;
+    case WM_CAPTURECHANGED:
+        if (reinterpret_cast<HWND>(l) != nucleo_.ventana)
+            raton_.CapturaPerdida();
+        return true;
+    case WM_SYSCOLORCHANGE:
+        nucleo_.VistaCambiada();
+        return false;
+    case WM_COMMAND:
+        if (CampoEdicion* campo = CampoDe(reinterpret_cast<HWND>(l)))
+            campo->Orden(HIWORD(w));
+        return true;
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORSTATIC:
+        if (CampoEdicion* campo = CampoDe(reinterpret_cast<HWND>(l)))
+            resultado = reinterpret_cast<LRESULT>(campo->Colorear(reinterpret_cast<HDC>(w)));
+        return resultado != 0;
+    case WM_DESTROY:
+        Perdida();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool VentanaSuperficie::ProcesarEntrada(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado) {
+    switch (mensaje) {
+    case WM_MOUSEACTIVATE:
+        resultado = MA_ACTIVATE;
+        return true;
+    case WM_SETCURSOR:
+        resultado = PonPuntero(l);
+        return resultado != 0;
+    case WM_GETDLGCODE:
+        resultado = CodigoDeDialogo(l);
+        return true;
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+    case WM_KEYUP:
+    case WM_SYSKEYUP:
+    case WM_CHAR:
+        return Tecla(mensaje, w);
+    default:
+        globos_.Mensaje(mensaje, w, l);
+        return raton_.Mensaje(mensaje, w, l);
+    }
+}
+
+// The surface has no action of its own for a key, but system keys go on to the platform unless
+// the control dropped them.
+bool VentanaSuperficie::Tecla(UINT mensaje, WPARAM w) {
+    auto codigo = static_cast<std::int16_t>(w);
+    const std::int16_t shift = ShiftActual();
+    nucleo_.Notificar([&](ControlUsuario& control) {
+        if (mensaje == WM_CHAR)
+            control.KeyPress(codigo);
+        else if (mensaje == WM_KEYDOWN || mensaje == WM_SYSKEYDOWN)
+            control.KeyDown(codigo, shift);
+        else
+            control.KeyUp(codigo, shift);
+    });
+    return codigo == 0 || (mensaje != WM_SYSKEYDOWN && mensaje != WM_SYSKEYUP);
+}
+
+bool VentanaSuperficie::PonPuntero(LPARAM l) {
+    if (LOWORD(l) != HTCLIENT)
+        return false;
+    const HCURSOR puntero = PunteroDe(superficie_.MousePointer(), superficie_.MouseIcon());
+    if (puntero)
+        ::SetCursor(puntero);
+    return puntero != nullptr;
+}
+
+void VentanaSuperficie::CambioDeTamano(SIZE tamano) {
+    const SIZE anterior = superficie_.Tamano();
+    if (anterior.cx == tamano.cx && anterior.cy == tamano.cy)
+        return;
+    superficie_.PonTamano(tamano);
+    nucleo_.Notificar([](ControlUsuario& control) { control.Resize(); });
+}
+
+void VentanaSuperficie::FocoRecibido() {
+    if (!FocoEntra(nucleo_) || nucleo_.sitio.EntradaCongelada())
+        return;
+    // The control may have passed the focus on already.
+    const HWND querida = DeFoco();
+    if (querida && querida != nucleo_.ventana && ::GetFocus() == nucleo_.ventana)
+        ::SetFocus(querida);
+}
+
+CampoEdicion* VentanaSuperficie::CampoDe(HWND ventana) const {
+    for (CampoEdicion* campo : nucleo_.campos)
+        if (ventana && campo->ventana() == ventana)
+            return campo;
+    return nullptr;
+}
+
+void VentanaSuperficie::Perdida() {
+    for (CampoEdicion* campo : nucleo_.campos)
+        campo->SoltarVentana();
+    globos_.Soltar();
+    raton_.CapturaPerdida();
+    nucleo_.ventana = nullptr;
+    nucleo_.VistaDibujada();
+    if (!nucleo_.cerrando)
+        FocoSale(nucleo_, nullptr);
+}
+
+} // namespace pincela::windows

@@ -1,0 +1,46 @@
+// The window of a surface: takes the platform's messages and hands them to whom they concern.
+#pragma once
+
+#include "plataforma/windows/globos.h"
+#include "plataforma/windows/raton.h"
+#include "plataforma/windows/superficie_windows.h"
+
+namespace pincela::windows {
+
+class VentanaSuperficie {
+  public:
+    VentanaSuperficie(Nucleo& nucleo, SuperficieWindows& superficie)
+        : nucleo_(nucleo), superficie_(superficie), raton_(nucleo), globos_(nucleo) {
+        nucleo_.globos = &globos_;
+    }
+    ~VentanaSuperficie() { Destruir(); }
+    VentanaSuperficie(const VentanaSuperficie&) = delete;
+    VentanaSuperficie& operator=(const VentanaSuperficie&) = delete;
+
+    HWND Crear(HWND padre, const RECT& lugar);
+    void Destruir();
+
+    /// The window that the focus belongs in: the first edit field that can have it.
+    HWND DeFoco() const;
+
+  private:
+    static LRESULT CALLBACK Procedimiento(HWND ventana, UINT mensaje, WPARAM w, LPARAM l) noexcept;
+    LRESULT Recibir(HWND ventana, UINT mensaje, WPARAM w, LPARAM l) noexcept;
+
+    // Each returns true when the message ends here, with its result.
+    bool Procesar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado);
+    bool ProcesarEntrada(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado);
+    bool Tecla(UINT mensaje, WPARAM w);
+    bool PonPuntero(LPARAM l);
+    void CambioDeTamano(SIZE tamano);
+    void FocoRecibido();
+    CampoEdicion* CampoDe(HWND ventana) const;
+    void Perdida();
+
+    Nucleo& nucleo_;
+    SuperficieWindows& superficie_;
+    Raton raton_;
+    Globos globos_;
+};
+
+} // namespace pincela::windows
