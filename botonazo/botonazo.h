@@ -106,6 +106,7 @@ class Botonazo final : public ControlUsuario {
     // What the host asks beside the life of the control (accesible.cpp).
     void AmbientFontChanged(const AtributosFuente& anterior, const Fuente& nueva) override;
     void AmbientChanged() override;
+    void UserModeChanged() override;
     Accesible Describir() const override;
     void AccionPorDefecto() override;
 
@@ -167,6 +168,7 @@ class Botonazo final : public ControlUsuario {
 
     // Hover (interaccion.cpp).
     void SondearRaton();
+    void DejarAspectoSobre();
     void PintarLetra(Color color);
     bool CambiaAspecto() const;
     bool EsVentanaPropia(Manejador ventana) const;

@@ -73,6 +73,12 @@ void Botonazo::SondearRaton() {
     Graficos& graficos = entorno_.graficos();
     if (EsVentanaPropia(graficos.WindowFromPoint(graficos.GetCursorPos())))
         return;
+    DejarAspectoSobre();
+    eventos.MouseSale();
+}
+
+// Out of the hover state, with the normal look.
+void Botonazo::DejarAspectoSobre() {
     Timer->PonInterval(SondeoFuera);
     Timer->PonEnabled(false);
     m_Sobre = false;
@@ -82,7 +88,16 @@ void Botonazo::SondearRaton() {
     entorno_.AccesibleCambiado();
     if (CambiaAspecto())
         PintarBoton(m_ImagNormal, m_ColorDegradeN, false);
-    eventos.MouseSale();
+}
+
+// A form that is being designed has no events, so nobody is told that the mouse left.
+void Botonazo::UserModeChanged() {
+    m_TeclaAbajo = false;
+    const bool habiaAspecto = m_Sobre || m_Presionado;
+    if (m_Presionado)
+        ActualizarEstado(false);
+    if (habiaAspecto)
+        DejarAspectoSobre();
 }
 
 // Whether the look under the mouse differs from the normal one.

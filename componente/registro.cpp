@@ -180,6 +180,17 @@ void QuitarConPadres(HKEY raiz, std::wstring ruta, std::size_t hasta) {
     }
 }
 
+/// Removes a key that holds nothing at all.
+void QuitarSiVacia(HKEY raiz, const std::wstring& ruta) {
+    ClaveAbierta clave;
+    DWORD subclaves = 0, valores = 0;
+    if (RegOpenKeyExW(raiz, ruta.c_str(), 0, KEY_READ, clave.Recibir()) == ERROR_SUCCESS &&
+        RegQueryInfoKeyW(clave.get(), nullptr, nullptr, nullptr, &subclaves, nullptr, nullptr,
+                         &valores, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS &&
+        subclaves == 0 && valores == 0)
+        RegDeleteKeyW(raiz, ruta.c_str());
+}
+
 } // namespace
 
 std::vector<ClaveDeRegistro> ClavesDelComponente(const std::wstring& archivo) {
@@ -229,6 +240,9 @@ HRESULT Desregistrar(HKEY raiz) {
         RegDeleteTreeW(raiz, version.c_str());
         RegDeleteKeyW(raiz, biblioteca.c_str());
     }
+    // A user's hive has these only for what was registered in it.
+    for (const wchar_t* comun : {L"CLSID", L"Interface", L"TypeLib"})
+        QuitarSiVacia(raiz, clases + comun);
     return S_OK;
 }
 

@@ -74,7 +74,7 @@ correr_en_xvfb() {
         PINCELA_XVFB_CERRADO=si con_cerrojo "$WINEPREFIX.pantalla" "$0" --pantalla xvfb "$@"
         return
     fi
-    exec {aviso}< <(exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp 2>/dev/null)
+    exec {aviso}< <(exec Xvfb -displayfd 1 -screen 0 2560x1600x24 -nolisten tcp 2>/dev/null)
     SERVIDOR_X=$!
     trap 'kill "$SERVIDOR_X" 2>/dev/null' EXIT
     read -r -t 20 -u "$aviso" numero || morir "Xvfb did not start"

@@ -36,6 +36,10 @@ class ControlUsuario : public OyenteRaton, public OyenteTeclado {
     /// Another of the container's properties that the look depends on changed.
     virtual void AmbientChanged() {}
 
+    /// The container went from running to designing, or back: what the mouse and the keys had begun
+    /// ends here.
+    virtual void UserModeChanged() {}
+
     /// What a screen reader says of the control at this moment.
     virtual Accesible Describir() const { return {}; }
     virtual void AccionPorDefecto() {}

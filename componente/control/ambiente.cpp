@@ -111,7 +111,11 @@ HRESULT ObjetoControl::OnAmbientPropertyChange(DISPID dispid) {
         // DISPID_UNKNOWN announces that any of them may have changed.
         auto es = [dispid](DISPID una) { return dispid == una || dispid == DISPID_UNKNOWN; };
         const bool eraPorDefecto = porDefecto_ > 0;
-        OlvidarAmbiente();
+        const int eraModoUsuario = modoUsuario_;
+        if (es(DISPID_AMBIENT_DISPLAYASDEFAULT))
+            porDefecto_ = -1;
+        if (es(DISPID_AMBIENT_USERMODE))
+            modoUsuario_ = -1;
         if (es(DISPID_AMBIENT_LOCALEID))
             windows::LeerRegional();
         if (vida_ != Vida::Viva)
@@ -120,6 +124,10 @@ HRESULT ObjetoControl::OnAmbientPropertyChange(DISPID dispid) {
             CambioDeFuenteAmbiente();
         if (es(DISPID_AMBIENT_DISPLAYASDEFAULT) && DisplayAsDefault() != eraPorDefecto)
             Nucleo()->AmbientChanged();
+        // A mode that nobody has asked for can't have begun anything.
+        if (es(DISPID_AMBIENT_USERMODE) && eraModoUsuario >= 0 &&
+            UserMode() != (eraModoUsuario > 0))
+            Nucleo()->UserModeChanged();
         // What is transparent shows the container's colours.
         if (es(DISPID_AMBIENT_BACKCOLOR) && entorno_.Ventana())
             InvalidateRect(entorno_.Ventana(), nullptr, FALSE);

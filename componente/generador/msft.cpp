@@ -39,10 +39,8 @@ void CorregirRanuras(std::span<unsigned char> imagen, std::size_t tipo) {
     constexpr int herencia64 = 7 * 8, herencia32 = 7 * 4;
     std::size_t lugar = Leer<unsigned>(imagen, tipo + TipoInicioDeMiembros) + sizeof(int);
     const int funciones = Leer<int>(imagen, tipo + TipoCantidades) & 0xFFFF;
-    if (funciones == 0)
-        return;
-    const int primera = Leer<short>(imagen, lugar + FuncionRanura) & ~1;
-    if (primera != herencia64)
+    // A library that a 32-bit generator wrote is right already.
+    if (Leer<short>(imagen, tipo + TipoLargoDeTabla) != herencia64 + 4 * funciones)
         return;
     for (int i = 0; i < funciones; ++i) {
         const auto ranura = Leer<short>(imagen, lugar + FuncionRanura);

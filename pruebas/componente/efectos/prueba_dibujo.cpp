@@ -80,7 +80,8 @@ TEST_CASE("A horizontal gradient runs from its first colour on the left to its l
     const Lamina l(120, 30);
     Degradar(b, l, 100, 20, 1, L"16777215*0", 0);
     for (int x = 0; x < 100; ++x) {
-        CHECK(l.Pixel(x, 0) == Gris(((0xFF00 * (100 - x) / 100) >> 8) / 255.0));
+        const auto gris = static_cast<BYTE>((0xFF00 * (100 - x) / 100) >> 8);
+        CHECK(l.Pixel(x, 0) == RGB(gris, gris, gris));
         CHECK(l.Pixel(x, 19) == l.Pixel(x, 0));
     }
     CHECK(l.Pixel(100, 5) == Lamina::Limpia); // not a pixel beyond the area

@@ -237,8 +237,8 @@ TEST_CASE("The library of the other width stays registered when ours goes") {
     Clave(HKEY_CURRENT_USER, otra, true).Poner(L"", L"C:\\otro\\Pincela.ocx");
     REQUIRE(b.modulo.Instalar(false, L"user") == S_OK);
     CHECK(Clave(HKEY_CURRENT_USER, otra).get() != nullptr);
-    RegDeleteTreeW(HKEY_CURRENT_USER,
-                   (std::wstring(ClasesDeSoftware) + L"\\TypeLib\\" + Biblioteca).c_str());
+    RegDeleteKeyW(HKEY_CURRENT_USER, otra.c_str());
+    REQUIRE(b.modulo.Instalar(false, L"user") == S_OK);
     CompararLineas(b.Usuario(), b.usuario);
 }
 

@@ -1,4 +1,5 @@
 // What the container says of the surroundings, and containers that say nothing.
+#include "pruebas/componente/comun/lamina.h"
 #include "pruebas/componente/vivo/banco.h"
 
 #include <olectl.h>
@@ -37,6 +38,37 @@ double Tamano(Banco& b) {
     return Real(anfitrion::Leer(fuente.pdispVal, L"Size"));
 }
 
+/// The user's separators for the length of a test.
+class SeparadorDecimal {
+  public:
+    SeparadorDecimal(const wchar_t* decimal, const wchar_t* miles) {
+        GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, decimal_, 8);
+        GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, miles_, 8);
+        Escribir(decimal, miles);
+    }
+    SeparadorDecimal(const SeparadorDecimal&) = delete;
+    SeparadorDecimal& operator=(const SeparadorDecimal&) = delete;
+    ~SeparadorDecimal() { Escribir(decimal_, miles_); }
+
+  private:
+    static void Escribir(const wchar_t* decimal, const wchar_t* miles) {
+        CHECK(SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, decimal));
+        CHECK(SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, miles));
+    }
+    wchar_t decimal_[8] = {}, miles_[8] = {};
+};
+
+Puntero<IDispatch> HacerEfectos(const Componente& componente) {
+    return componente.Crear(componente.Clase(L"Pincela.Efectos")).Como<IDispatch>();
+}
+
+/// The left-most pixel of a horizontal gradient of those colours.
+COLORREF PrimerColor(IDispatch* efectos, const wchar_t* colores) {
+    const publicado::Lamina lamina(100, 10);
+    Llamar(efectos, L"Degrade", {lamina.Numero(), 100L, 10L, 1L, colores});
+    return lamina.Pixel(0, 5);
+}
+
 } // namespace
 
 TEST_CASE("In design mode the button neither hovers nor clicks") {
@@ -65,6 +97,32 @@ TEST_CASE("The change to design mode and back counts from its announcement") {
     b.forma->PonerModoUsuario(true);
     Pulsar(b);
     CHECK(b.Veces("Click") == 1);
+}
+
+TEST_CASE("A form that goes to design mode ends what the mouse had begun, without an event") {
+    Banco b;
+    b.Poner(L"ColorFondoSobre", 0xFF00L);
+    b.Poner(L"FocoVisible", false);
+    const Captura normal = Captura::DeVentana(b.Ventana());
+    SUBCASE("a hover") {
+        b.Enviar(WM_MOUSEMOVE, 0, 5, 5);
+    }
+    SUBCASE("a press") {
+        b.Enviar(WM_MOUSEMOVE, 0, 5, 5);
+        b.Enviar(WM_LBUTTONDOWN, MK_LBUTTON, 5, 5);
+    }
+    SUBCASE("a key that is down") {
+        SendMessageW(b.Ventana(), WM_KEYDOWN, VK_SPACE, 1);
+    }
+    CHECK(Captura::DeVentana(b.Ventana()) != normal);
+    b.Olvidar();
+    b.forma->PonerModoUsuario(false);
+    CHECK(Captura::DeVentana(b.Ventana()) == normal);
+    SendMessageW(b.Ventana(), WM_KEYUP, VK_SPACE, static_cast<LPARAM>(0xC0000001));
+    SendMessageW(b.Ventana(), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    b.Esperar(100); // longer than the poll of the mouse takes
+    CHECK(b.Sucesos() == Hechos{});
+    CHECK(Captura::DeVentana(b.Ventana()) == normal);
 }
 
 TEST_CASE("User mode is asked once, and again after any announcement that may concern it") {
@@ -96,6 +154,18 @@ TEST_CASE("Every ambient announcement is accepted, even one that nobody knows") 
         CHECK(control->OnAmbientPropertyChange(numero) == S_OK);
     Pulsar(b);
     CHECK(b.Veces("Click") == 1);
+}
+
+TEST_CASE("A change of locale counts for what is read from text from its announcement on") {
+    Banco b;
+    const auto efectos = HacerEfectos(b.componente);
+    const SeparadorDecimal coma(L",", L".");
+    b.boton->Como<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_LOCALEID);
+    CHECK(PrimerColor(efectos.get(), L"512,4*0") == 512);
+    const SeparadorDecimal punto(L".", L",");
+    CHECK(PrimerColor(efectos.get(), L"512,4*0") == 512);
+    b.boton->Como<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_LOCALEID);
+    CHECK(PrimerColor(efectos.get(), L"512,4*0") == 5124);
 }
 
 TEST_CASE("A new button takes the font of its form, and a copy of it") {
