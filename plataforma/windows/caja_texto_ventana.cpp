@@ -5,6 +5,7 @@
 #include "plataforma/windows/foco.h"
 #include "plataforma/windows/globos.h"
 #include "plataforma/windows/raton.h"
+#include "plataforma/windows/temporizador_windows.h"
 
 #include <commctrl.h>
 #include <windowsx.h>
@@ -173,6 +174,9 @@ bool CajaTextoWindows::Procesar(UINT mensaje, WPARAM& w, LPARAM l, LRESULT& resu
     case WM_CAPTURECHANGED:
         izquierdoAbajo_ = false;
         return false;
+    case WM_MOUSELEAVE:
+        TemporizadorWindows::RatonSale(nucleo_);
+        return false;
     default:
         if (EsDeRaton(mensaje))
             ProcesarRaton(mensaje, w, l);
@@ -217,6 +221,7 @@ void CajaTextoWindows::ProcesarRaton(UINT mensaje, WPARAM w, LPARAM l) {
     const std::int16_t boton = BotonDeMensaje(mensaje);
     switch (mensaje) {
     case WM_MOUSEMOVE:
+        TemporizadorWindows::RatonEncima(nucleo_, ventana_);
         Decir([&](OyenteEdicion& o) { o.MouseMove(BotonesAbajo(w), shift, x, y); });
         return;
     case WM_LBUTTONDOWN:

@@ -7,9 +7,12 @@ namespace pincela::windows {
 
 namespace {
 
-// Nothing is seen between two frames of the screen, and the platform's clock is about as coarse: a
-// finer timer would only wake the process more often.
-constexpr std::int32_t IntervaloMenor = 16; // milliseconds
+// A timer finer than a frame of the screen is a watch on the mouse, and each tick wakes the process.
+// Once the mouse rests it looks at once when the mouse leaves, and only now and then for what comes
+// between the mouse and the control without a move.
+constexpr std::int32_t Cuadro = 16;   // milliseconds
+constexpr std::int32_t Reposo = 100;  // milliseconds
+constexpr int TicsHastaReposo = 10;
 
 struct EnMarcha {
     UINT_PTR numero;
@@ -37,6 +40,7 @@ void TemporizadorWindows::PonEnabled(bool valor) {
     if (valor == habilitado_)
         return;
     habilitado_ = valor;
+    tics_ = 0;
     if (valor)
         Arrancar();
     else
@@ -48,8 +52,8 @@ void TemporizadorWindows::Arrancar() {
         return;
     auto& enMarcha = LosEnMarcha();
     enMarcha.reserve(enMarcha.size() + 1);
-    numero_ = ::SetTimer(nullptr, 0, static_cast<UINT>(std::max(intervalo_, IntervaloMenor)),
-                         &TemporizadorWindows::Tic);
+    const std::int32_t cadencia = std::max(intervalo_, Descansa() ? Reposo : Cuadro);
+    numero_ = ::SetTimer(nullptr, 0, static_cast<UINT>(cadencia), &TemporizadorWindows::Tic);
     if (numero_)
         enMarcha.push_back({numero_, this});
 }
@@ -62,6 +66,46 @@ void TemporizadorWindows::Parar() {
     std::erase_if(LosEnMarcha(), [this](const EnMarcha& e) { return e.temporizador == this; });
 }
 
+bool TemporizadorWindows::Vigila() const {
+    return numero_ && intervalo_ < Cuadro;
+}
+
+bool TemporizadorWindows::Descansa() const {
+    return intervalo_ < Cuadro && tics_ >= TicsHastaReposo;
+}
+
+void TemporizadorWindows::Cambiar(int tics) {
+    const bool descansaba = Descansa();
+    tics_ = tics;
+    if (Descansa() != descansaba) {
+        Parar();
+        Arrancar();
+    }
+}
+
+std::vector<TemporizadorWindows*> TemporizadorWindows::Vigias(const Nucleo& nucleo) {
+    std::vector<TemporizadorWindows*> vigias;
+    for (const EnMarcha& una : LosEnMarcha())
+        if (&una.temporizador->nucleo_ == &nucleo && una.temporizador->Vigila())
+            vigias.push_back(una.temporizador);
+    return vigias;
+}
+
+void TemporizadorWindows::RatonEncima(const Nucleo& nucleo, HWND ventana) {
+    TRACKMOUSEEVENT pedido{sizeof pedido, TME_LEAVE, ventana, 0};
+    ::TrackMouseEvent(&pedido);
+    for (TemporizadorWindows* vigia : Vigias(nucleo))
+        vigia->Cambiar(0);
+}
+
+void TemporizadorWindows::RatonSale(const Nucleo& nucleo) {
+    std::vector<UINT_PTR> numeros;
+    for (const TemporizadorWindows* vigia : Vigias(nucleo))
+        numeros.push_back(vigia->numero_);
+    for (const UINT_PTR numero : numeros)
+        Tic(nullptr, WM_TIMER, numero, 0);
+}
+
 void CALLBACK TemporizadorWindows::Tic(HWND, UINT, UINT_PTR numero, DWORD) noexcept {
     auto& enMarcha = LosEnMarcha();
     const auto lugar = std::find_if(enMarcha.begin(), enMarcha.end(),
@@ -69,6 +113,8 @@ void CALLBACK TemporizadorWindows::Tic(HWND, UINT, UINT_PTR numero, DWORD) noexc
     if (lugar == enMarcha.end())
         return;
     TemporizadorWindows& temporizador = *lugar->temporizador;
+    if (temporizador.tics_ < TicsHastaReposo)
+        temporizador.Cambiar(temporizador.tics_ + 1);
     SitioControl& sitio = temporizador.nucleo_.sitio;
     Sosten sosten(sitio);
     // A copy: the timer may die in its own tick.

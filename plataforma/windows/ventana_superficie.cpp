@@ -5,6 +5,7 @@
 #include "plataforma/windows/foco.h"
 #include "plataforma/windows/modulo.h"
 #include "plataforma/windows/puntero.h"
+#include "plataforma/windows/temporizador_windows.h"
 
 namespace pincela::windows {
 
@@ -144,6 +145,9 @@ bool VentanaSuperficie::Procesar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resu
         if (reinterpret_cast<HWND>(l) != nucleo_.ventana)
             raton_.CapturaPerdida();
         return true;
+    case WM_MOUSELEAVE:
+        TemporizadorWindows::RatonSale(nucleo_);
+        return false;
     case WM_SYSCOLORCHANGE:
         nucleo_.VistaCambiada();
         return false;
@@ -181,6 +185,9 @@ bool VentanaSuperficie::ProcesarEntrada(UINT mensaje, WPARAM w, LPARAM l, LRESUL
     case WM_SYSKEYUP:
     case WM_CHAR:
         return Tecla(mensaje, w);
+    case WM_MOUSEMOVE:
+        TemporizadorWindows::RatonEncima(nucleo_, nucleo_.ventana);
+        [[fallthrough]];
     default:
         globos_.Mensaje(mensaje, w, l);
         return raton_.Mensaje(mensaje, w, l);

@@ -27,6 +27,31 @@ TEST_CASE("A timer ticks while it is enabled and has an interval") {
     CHECK(tics == 0);
 }
 
+TEST_CASE("A timer that watches the mouse rests with it, and makes haste when it moves or leaves") {
+    Banco banco;
+    const HWND ventana = banco.Activar();
+    auto t = banco.entorno->CrearTemporizador();
+    auto lento = banco.entorno->CrearTemporizador();
+    int tics = 0, lentos = 0;
+    t->AlTic([&] { ++tics; });
+    lento->AlTic([&] { ++lentos; });
+    t->PonInterval(1);
+    lento->PonInterval(5000);
+    Bombear(400);
+    tics = 0;
+    Bombear(400);
+    CHECK(tics >= 2);
+    CHECK(tics <= 6);
+    tics = 0;
+    ::SendMessageW(ventana, WM_MOUSELEAVE, 0, 0);
+    CHECK(tics == 1);
+    CHECK(lentos == 0);
+    ::SendMessageW(ventana, WM_MOUSEMOVE, 0, Punto(1, 1));
+    tics = 0;
+    Bombear(120);
+    CHECK(tics >= 3);
+}
+
 TEST_CASE("A timer may die in its own tick") {
     Banco banco;
     auto t = banco.entorno->CrearTemporizador();
@@ -42,6 +67,19 @@ TEST_CASE("A timer may die in its own tick") {
     CHECK(tics == 1);
     CHECK(*testigo == 1);
     CHECK(testigo.use_count() == 1);
+}
+
+TEST_CASE("A timer may die in the tick that the leaving mouse brings") {
+    Banco banco;
+    const HWND ventana = banco.Activar();
+    auto t = banco.entorno->CrearTemporizador(), otro = banco.entorno->CrearTemporizador();
+    for (auto* uno : {&t, &otro}) {
+        (*uno)->AlTic([&] { t.reset(), otro.reset(); });
+        (*uno)->PonInterval(1);
+    }
+    ::SendMessageW(ventana, WM_MOUSELEAVE, 0, 0);
+    CHECK(t == nullptr);
+    CHECK(otro == nullptr);
 }
 
 TEST_CASE("An error in a tick or a handler ends at the site and the next message is handled") {

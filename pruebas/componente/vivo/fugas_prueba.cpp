@@ -40,11 +40,12 @@ TEST_CASE("10,000 entries and exits of the mouse leave nothing behind") {
     b.Poner(L"Caption", L"Hola");
     b.Poner(L"ColorFondoSobre", 0xFF00L);
     b.Poner(L"TipoLetra", 1L);
-    // Ten buttons leave with one wait for the poll.
+    // Forty buttons leave with one wait for the poll.
+    constexpr int juntos = 40;
     std::vector<std::shared_ptr<ControlAlojado>> botones{b.boton};
-    for (LONG i = 0; i < 9; ++i) {
-        const LONG x = 170 + 13 * i;
-        botones.push_back(b.Agregar(L"B" + std::to_wstring(i), {x, 100, x + 12, 120}));
+    for (LONG i = 0; i < juntos - 1; ++i) {
+        const LONG x = 5 + 13 * (i % 20), y = 100 + 25 * (i / 20);
+        botones.push_back(b.Agregar(L"B" + std::to_wstring(i), {x, y, x + 12, y + 20}));
         Poner(botones.back()->Despacho(), L"ColorFondoSobre", 0xFF00L);
     }
     int salidas = 0;
@@ -52,8 +53,8 @@ TEST_CASE("10,000 entries and exits of the mouse leave nothing behind") {
         boton->Conectar([&](Evento& e) { salidas += e.numero == 5; });
     NoDejaNada("hover", 10000, [&](int veces) {
         salidas = 0;
-        for (int vez = 0; vez < veces; vez += 10) {
-            const int hasta = salidas + 10;
+        for (int vez = 0; vez < veces; vez += juntos) {
+            const int hasta = salidas + juntos;
             for (const auto& boton : botones)
                 SendMessageW(boton->Ventana(), WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
             for (int i = 0; i < 200 && salidas < hasta; ++i)
