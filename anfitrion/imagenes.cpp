@@ -41,4 +41,14 @@ Puntero<IPictureDisp> CrearImagen(HICON icono) {
     return Crear(descripcion);
 }
 
+Puntero<IPictureDisp> CrearImagen(HMETAFILE metaarchivo, SIZE tamano) {
+    PICTDESC descripcion{};
+    descripcion.cbSizeofstruct = sizeof descripcion;
+    descripcion.picType = PICTYPE_METAFILE;
+    descripcion.wmf.hmeta = metaarchivo;
+    descripcion.wmf.xExt = tamano.cx;
+    descripcion.wmf.yExt = tamano.cy;
+    return Crear(descripcion);
+}
+
 } // namespace anfitrion

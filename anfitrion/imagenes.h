@@ -16,5 +16,7 @@ Puntero<IFontDisp> CrearFuente(const std::wstring& nombre, double puntos, bool n
 /// Standard picture objects; the picture owns the handle from now on.
 Puntero<IPictureDisp> CrearImagen(HBITMAP mapa);
 Puntero<IPictureDisp> CrearImagen(HICON icono);
+/// A placeable metafile; sizes in hundredths of a millimetre.
+Puntero<IPictureDisp> CrearImagen(HMETAFILE metaarchivo, SIZE tamano);
 
 } // namespace anfitrion

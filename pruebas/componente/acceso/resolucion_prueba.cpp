@@ -1,7 +1,11 @@
 // The resolution of the screen: fonts and picture sizes follow it, layout numbers stay pixels.
 #include "pruebas/componente/acceso/banco.h"
 
+#include "anfitrion/imagenes.h"
+
 #include <olectl.h>
+
+#include <algorithm>
 
 using namespace acceso;
 
@@ -26,6 +30,19 @@ int AltoDeLetra(const Captura& c) {
                 ultima = y;
             }
     return primera < 0 ? 0 : ultima - primera + 1;
+}
+
+/// A picture of so many hundredths of a millimetre, red from edge to edge.
+Puntero<IPictureDisp> CuadroRojo(LONG lado) {
+    const HDC hdc = CreateMetaFileW(nullptr);
+    SetMapMode(hdc, MM_ANISOTROPIC);
+    SetWindowExtEx(hdc, 100, 100, nullptr);
+    const HGDIOBJ rojo = CreateSolidBrush(RGB(255, 0, 0));
+    SelectObject(hdc, rojo);
+    PatBlt(hdc, 0, 0, 100, 100, PATCOPY);
+    const HMETAFILE metaarchivo = CloseMetaFile(hdc);
+    DeleteObject(rojo);
+    return CrearImagen(metaarchivo, {lado, lado});
 }
 
 } // namespace
@@ -59,6 +76,29 @@ TEST_CASE("a caption is as tall as its font at the resolution of the screen and 
     MESSAGE("dots per inch ", PppDePantalla(), ", letters ", alto, " rows of ", fuente);
     CHECK(alto >= fuente * 7 / 10);
     CHECK(alto <= fuente * 13 / 10);
+}
+
+TEST_CASE("a picture of a fifth of an inch is a fifth of an inch wide and tall on the screen") {
+    Banco b;
+    b.Poner(L"EstilosBord", 0L);
+    const Puntero<IPictureDisp> imagen = CuadroRojo(508);
+    b.Poner(L"Expandir", false);
+    PonerRef(b.boton->Despacho(), L"ImagNormal", Variante(imagen.get()));
+    b.forma->BombearMensajes();
+    const Captura c = Captura::DeVentana(b.boton->Ventana());
+    int rojos = 0, izquierda = c.Ancho(), derecha = -1;
+    for (int y = 0; y < c.Alto(); ++y)
+        for (int x = 0; x < c.Ancho(); ++x)
+            if (c.Pixel(x, y) == RGB(255, 0, 0)) {
+                ++rojos;
+                izquierda = std::min(izquierda, x);
+                derecha = std::max(derecha, x);
+            }
+    const int lado = MulDiv(508, PppDePantalla(), 2540);
+    CHECK(derecha - izquierda + 1 >= lado - 1);
+    CHECK(derecha - izquierda + 1 <= lado + 1);
+    CHECK(rojos >= (lado - 1) * (lado - 1));
+    CHECK(rojos <= (lado + 1) * (lado + 1));
 }
 
 TEST_CASE("a change of resolution relays the control") {
