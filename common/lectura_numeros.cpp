@@ -8,10 +8,9 @@
 #include "common/errores.h"
 
 #include <algorithm>
-#include <charconv>
+#include <cmath>
 #include <cstdlib>
 #include <string>
-#include <system_error>
 
 namespace pincela {
 namespace {
@@ -85,7 +84,8 @@ Patron LeerPatron(Lector& lector) {
     return {static_cast<std::uint32_t>(bits), lector.Tomar(u'&')};
 }
 
-/// The decimal digits of a number, gathered in the form the standard library reads.
+/// The decimal digits of a number, gathered as a whole number and a power of ten: no separator is left
+/// that the standard library would read in its own way.
 class Decimales {
   public:
     /// Digits, separators and exponent, as far as they go. False when there is no digit.
@@ -97,22 +97,18 @@ class Decimales {
     void Anotar(char16_t digito, bool fraccion);
     void LeerExponente(Lector& lector, bool soloCompleto);
 
-    std::string escrito_;
+    std::string digitos_; // from the first significant one on
+    long exponente_ = 0;  // as written
+    long decimales_ = 0;
     bool hayDigito_ = false;
-    bool significativo_ = false;
-    long orden_ = 0; // places of the first significant digit before the point, or zeros after it
 };
 
 void Decimales::Anotar(char16_t digito, bool fraccion) {
     hayDigito_ = true;
-    significativo_ = significativo_ || digito != u'0';
-    if (significativo_ && !fraccion)
-        ++orden_;
-    if (!significativo_ && fraccion)
-        --orden_;
-    // Zeros ahead of a whole number say nothing.
-    if (significativo_ || fraccion)
-        escrito_.push_back(static_cast<char>(digito));
+    if (fraccion)
+        ++decimales_;
+    if (!digitos_.empty() || digito != u'0')
+        digitos_.push_back(static_cast<char>(digito));
 }
 
 bool Decimales::Leer(Lector& lector, Regional regional, bool soloExponenteCompleto) {
@@ -125,9 +121,6 @@ bool Decimales::Leer(Lector& lector, Regional regional, bool soloExponenteComple
             Anotar(letra, fraccion);
         } else if (letra == regional.decimal && !fraccion) {
             fraccion = true;
-            if (escrito_.empty())
-                escrito_.push_back('0');
-            escrito_.push_back('.');
         } else if (letra != regional.miles || letra == u'\0' || !hayDigito_) {
             break;
         }
@@ -156,22 +149,16 @@ void Decimales::LeerExponente(Lector& lector, bool soloCompleto) {
     for (; EsDigito(adelante.Actual()); adelante.Avanzar())
         exponente = std::min(tope, exponente * 10 + (adelante.Actual() - u'0'));
     lector = adelante;
-    orden_ += negativo ? -exponente : exponente;
-    escrito_ += negativo ? "e-" : "e";
-    escrito_ += std::to_string(exponente);
+    exponente_ = negativo ? -exponente : exponente;
 }
 
 double Decimales::Valor() const {
-    if (!significativo_)
+    if (digitos_.empty())
         return 0;
-    double valor = 0;
-    const char* inicio = escrito_.data();
-    const auto [fin, error] = std::from_chars(inicio, inicio + escrito_.size(), valor);
-    if (error == std::errc::result_out_of_range) {
-        if (orden_ > 0)
-            Lanzar(NumeroError::Desbordamiento);
-        return 0;
-    }
+    const std::string escrito = digitos_ + 'e' + std::to_string(exponente_ - decimales_);
+    const double valor = std::strtod(escrito.c_str(), nullptr);
+    if (std::isinf(valor))
+        Lanzar(NumeroError::Desbordamiento);
     return valor;
 }
 

@@ -3,8 +3,8 @@
 #include "componente/fabrica.h"
 
 #include <atomic>
-#include <mutex>
 #include <string>
+#include <utility>
 
 namespace pincela::componente {
 
@@ -13,8 +13,15 @@ namespace {
 HINSTANCE modulo = nullptr;
 std::atomic<long> bloqueos{0};
 
-std::mutex guardaBiblioteca;
-ITypeLib* biblioteca = nullptr; // counted; released with the last object
+SRWLOCK cerradura = SRWLOCK_INIT; // of what follows
+ITypeLib* biblioteca = nullptr;   // counted; released with the last object
+
+struct Guarda {
+    Guarda() { AcquireSRWLockExclusive(&cerradura); }
+    Guarda(const Guarda&) = delete;
+    Guarda& operator=(const Guarda&) = delete;
+    ~Guarda() { ReleaseSRWLockExclusive(&cerradura); }
+};
 
 } // namespace
 
@@ -31,7 +38,7 @@ void DesbloquearModulo() {
         return;
     ITypeLib* vieja = nullptr;
     {
-        std::lock_guard guarda(guardaBiblioteca);
+        const Guarda guarda;
         vieja = std::exchange(biblioteca, nullptr);
     }
     if (vieja)
@@ -44,7 +51,7 @@ bool ModuloOcioso() {
 
 HRESULT BibliotecaDeTipos(ITypeLib** salida) {
     *salida = nullptr;
-    std::lock_guard guarda(guardaBiblioteca);
+    const Guarda guarda;
     if (!biblioteca) {
         wchar_t ruta[MAX_PATH];
         const DWORD largo = GetModuleFileNameW(modulo, ruta, MAX_PATH);

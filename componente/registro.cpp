@@ -41,6 +41,12 @@ std::wstring Escrito(const GUID& guid) {
     return texto;
 }
 
+std::wstring Escrito(unsigned long numero) {
+    wchar_t texto[12];
+    wsprintfW(texto, L"%lu", numero);
+    return texto;
+}
+
 std::wstring RutaDeClase(const GUID& clase) {
     return L"CLSID\\" + Escrito(clase);
 }
@@ -51,7 +57,7 @@ std::wstring RutaDeBiblioteca() {
     return L"TypeLib\\" + Escrito(GuidDeLaBiblioteca);
 }
 std::wstring VersionDeBiblioteca() {
-    return std::to_wstring(VersionMayor) + L"." + std::to_wstring(VersionMenor);
+    return Escrito(VersionMayor) + L"." + Escrito(VersionMenor);
 }
 std::wstring IdentificadorDePrograma(const DatosClase& datos) {
     return std::wstring(NombreDeLaBiblioteca) + L"." + datos.nombre;
@@ -63,7 +69,7 @@ void AgregarBiblioteca(Claves& claves, const std::wstring& archivo) {
     const std::wstring version = RutaDeBiblioteca() + L"\\" + VersionDeBiblioteca();
     claves.push_back({version, L"", NombreDeLaBiblioteca});
     claves.push_back({version + L"\\409\\" + Sistema, L"", archivo});
-    claves.push_back({version + L"\\FLAGS", L"", std::to_wstring(LIBFLAG_FCONTROL)});
+    claves.push_back({version + L"\\FLAGS", L"", Escrito(LIBFLAG_FCONTROL)});
     claves.push_back({version + L"\\HELPDIR", L"", archivo.substr(0, archivo.rfind(L'\\'))});
 }
 
@@ -83,9 +89,9 @@ void AgregarControl(Claves& claves, const DatosClase& datos, const std::wstring&
     claves.push_back(
         {ruta + L"\\Implemented Categories\\" + Escrito(CategoriaDeControles), L"", L""});
     claves.push_back({ruta + L"\\MiscStatus", L"", L"0"});
-    claves.push_back({ruta + L"\\MiscStatus\\1", L"", std::to_wstring(datos.rasgosOle)});
+    claves.push_back({ruta + L"\\MiscStatus\\1", L"", Escrito(datos.rasgosOle)});
     claves.push_back(
-        {ruta + L"\\ToolboxBitmap32", L"", archivo + L", " + std::to_wstring(datos.mapaDeBits)});
+        {ruta + L"\\ToolboxBitmap32", L"", archivo + L", " + Escrito(datos.mapaDeBits)});
 }
 
 void AgregarClase(Claves& claves, const DatosClase& datos, const std::wstring& archivo) {
