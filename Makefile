@@ -1,7 +1,7 @@
 # The front of the build. `make demo` shows the component; `make test` proves it.
 
 .DEFAULT_GOAL := ocx
-.PHONY: ayuda setup setup-base setup-32 ocx ocx64 ocx32 demo test bench format tidy clean
+.PHONY: ayuda setup setup-base setup-32 ocx ocx64 ocx32 demo test bench fuzz format tidy clean
 
 SHELL := /bin/bash
 H := herramientas
@@ -15,6 +15,7 @@ ayuda:
 	  'make demo    the gallery: every control on one form' \
 	  'make test    every test: natively, and under 64- and 32-bit Wine' \
 	  'make bench   the measurements' \
+	  'make fuzz    a minute of made-up input for each reader of text and bytes' \
 	  'make tidy, make format, make clean'
 
 # Everything that building and the demo need; and what the 32-bit tests add to it.
@@ -37,6 +38,10 @@ demo: ocx
 
 test: setup
 	@$H/probar
+
+fuzz: setup-base
+	@$H/instalar difuso
+	@$H/difundir
 
 bench: ocx
 	@$H/construir win64 all
