@@ -97,6 +97,10 @@ class Area final : public ControlUsuario {
     /// May be called more than once.
     void Terminate() override;
 
+    void AmbientFontChanged(const AtributosFuente& anterior, const Fuente& nueva) override;
+    Accesible Describir() const override;
+    void AccionPorDefecto() override { Click(); }
+
     void Click() override;
     void MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
     void MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y) override;

@@ -1,5 +1,6 @@
 // IOleControl and the ambient properties of the container.
 #include "componente/control/objeto_control.h"
+#include "componente/control/tardio.h"
 
 #include <vector>
 
@@ -8,14 +9,7 @@ namespace pincela::componente {
 bool ObjetoControl::LeerAmbiente(DISPID dispid, VARTYPE tipo, VARIANT* valor) {
     if (!ambiente_)
         return false;
-    VarianteCom leido;
-    DISPPARAMS ninguno{};
-    const HRESULT estado = Ptr<IDispatch>(ambiente_)->Invoke(dispid, IID_NULL, LOCALE_USER_DEFAULT,
-                                                             DISPATCH_PROPERTYGET, &ninguno,
-                                                             leido.Recibir(), nullptr, nullptr);
-    if (FAILED(estado) || V_VT(&leido) == VT_EMPTY)
-        return false;
-    return SUCCEEDED(VariantChangeType(valor, &leido, 0, tipo));
+    return LeerTardio(ambiente_, dispid, tipo, valor);
 }
 
 void ObjetoControl::OlvidarAmbiente() {
@@ -111,6 +105,7 @@ HRESULT ObjetoControl::OnAmbientPropertyChange(DISPID dispid) {
         // DISPID_UNKNOWN announces that any of them may have changed.
         auto es = [dispid](DISPID una) { return dispid == una || dispid == DISPID_UNKNOWN; };
         const bool eraPorDefecto = porDefecto_ > 0;
+        const bool eraDeUsuario = modoUsuario_ != 0;
         OlvidarAmbiente();
         if (es(DISPID_AMBIENT_LOCALEID))
             windows::LeerRegional();
@@ -120,6 +115,8 @@ HRESULT ObjetoControl::OnAmbientPropertyChange(DISPID dispid) {
             CambioDeFuenteAmbiente();
         if (es(DISPID_AMBIENT_DISPLAYASDEFAULT) && DisplayAsDefault() != eraPorDefecto)
             Nucleo()->AmbientChanged();
+        if (es(DISPID_AMBIENT_USERMODE) && activoEnSitio_ && UserMode() != eraDeUsuario)
+            Nucleo()->Show();
         // What is transparent shows the container's colours.
         if (es(DISPID_AMBIENT_BACKCOLOR) && entorno_.Ventana())
             InvalidateRect(entorno_.Ventana(), nullptr, FALSE);
@@ -144,8 +141,6 @@ void ObjetoControl::EnviarTab() {
     teclas[1].ki.dwFlags = KEYEVENTF_KEYUP;
     SendInput(2, teclas, sizeof(INPUT));
 }
-
-void ObjetoControl::ControlesContenidos(const std::function<void(ControlContenido&)>&) {}
 
 void ObjetoControl::ErrorEnNotificacion(const ErrorEjecucion& error) noexcept {
     // The platform called, so there is nobody to return a status to: the error is left where a
