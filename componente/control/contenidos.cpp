@@ -2,6 +2,7 @@
 //
 // A container that knows says so itself; any other is asked for all its controls, and those are
 // taken whose window lies in this one's, with no third control's window in between.
+#include "componente/control/disenador.h"
 #include "componente/control/objeto_control.h"
 #include "componente/control/tardio.h"
 
@@ -11,14 +12,6 @@
 namespace pincela::componente {
 
 namespace {
-
-/// Offered by the sites of form designers.
-struct IVBGetControl : IUnknown {
-    virtual HRESULT STDMETHODCALLTYPE EnumControls(DWORD cuales, DWORD donde,
-                                                   IEnumUnknown** lista) = 0;
-};
-constexpr IID IidGetControl = "{40A050A0-3C31-101B-A82E-08002B2B2337}"_guid;
-constexpr DWORD Contenidos = 3; // those inside the control that asks
 
 constexpr DWORD Cuales = OLECONTF_EMBEDDINGS | OLECONTF_OTHERS;
 /// More controls than any form has; a list longer than that has no end.
@@ -129,7 +122,7 @@ class ContenidoTardio final : public ControlContenido {
 bool PorElSitio(const Ptr<IOleClientSite>& sitio, Objetos& objetos) {
     Ptr<IEnumUnknown> lista;
     const auto control = Ptr<IVBGetControl>::De(sitio.get(), IidGetControl);
-    if (!control || FAILED(control->EnumControls(Cuales, Contenidos, lista.Recibir())) || !lista)
+    if (!control || FAILED(control->EnumControls(Cuales, ControlesDentro, lista.Recibir())) || !lista)
         return false;
     objetos = Recorrer(lista);
     return true;
