@@ -13,13 +13,11 @@ using namespace anfitrion;
 
 namespace {
 
-constexpr int AltoPestanas = 26;
-
 OpcionesFormulario OpcionesDelMarco() {
     OpcionesFormulario opciones;
     opciones.titulo = L"Galería de Pincela";
     opciones.ancho = Escala(AnchoPagina);
-    opciones.alto = Escala(AltoPestanas + AltoPagina);
+    opciones.alto = Escala(AltoPagina);
     opciones.redimensionable = false;
     opciones.visible = false;
     return opciones;
@@ -41,13 +39,18 @@ OpcionesFormulario OpcionesDePagina(HWND padre) {
 Marco::Marco()
     : forma_(OpcionesDelMarco()),
       pestanas_(CreateWindowExW(0, WC_TABCONTROLW, L"", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, 0, 0,
-                                Escala(AnchoPagina), Escala(AltoPestanas), forma_.Ventana(),
-                                nullptr, nullptr, nullptr)),
+                                Escala(AnchoPagina), 0, forma_.Ventana(), nullptr, nullptr,
+                                nullptr)),
       fuente_(CrearFuenteGdi(9, FW_NORMAL).release(), &DeleteObject) {
     SendMessageW(pestanas_, WM_SETFONT, reinterpret_cast<WPARAM>(fuente_.get()), TRUE);
     forma_.alRecibir = [this](UINT mensaje, WPARAM, LPARAM l, LRESULT&) {
         if (mensaje == WM_NOTIFY && reinterpret_cast<const NMHDR*>(l)->code == TCN_SELCHANGE) {
             Mostrar(static_cast<std::size_t>(SendMessageW(pestanas_, TCM_GETCURSEL, 0, 0)));
+            return true;
+        }
+        if (mensaje == WM_GETMINMAXINFO) {
+            // A picture shows the whole page, also where the screen is smaller.
+            reinterpret_cast<MINMAXINFO*>(l)->ptMaxTrackSize = {SHRT_MAX, SHRT_MAX};
             return true;
         }
         if (mensaje != WM_SETFOCUS || paginas_.empty())
@@ -62,8 +65,18 @@ void Marco::Agregar(const wchar_t* titulo, std::unique_ptr<Pagina> pagina) {
     pestana.mask = TCIF_TEXT;
     pestana.pszText = const_cast<wchar_t*>(titulo);
     SendMessageW(pestanas_, TCM_INSERTITEMW, paginas_.size(), reinterpret_cast<LPARAM>(&pestana));
-    SetWindowPos(pagina->Forma().Ventana(), nullptr, 0, Escala(AltoPestanas), 0, 0,
+    // As high as the tabs are, without the frame that the platform draws below them.
+    RECT lugar{};
+    SendMessageW(pestanas_, TCM_GETITEMRECT, paginas_.size(), reinterpret_cast<LPARAM>(&lugar));
+    const int alto = static_cast<int>(lugar.bottom);
+    SetWindowPos(pestanas_, nullptr, 0, 0, Escala(AnchoPagina), alto, SWP_NOMOVE | SWP_NOZORDER);
+    SetWindowPos(pagina->Forma().Ventana(), nullptr, 0, alto, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT marco{0, 0, Escala(AnchoPagina), alto + Escala(AltoPagina)};
+    AdjustWindowRectEx(&marco, static_cast<DWORD>(GetWindowLongW(Ventana(), GWL_STYLE)), FALSE,
+                       static_cast<DWORD>(GetWindowLongW(Ventana(), GWL_EXSTYLE)));
+    SetWindowPos(Ventana(), nullptr, 0, 0, Ancho(marco), Alto(marco),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     paginas_.push_back(std::move(pagina));
 }
 

@@ -20,7 +20,9 @@ constexpr CLSID ClaseBotonazo = {
 constexpr Color Blanco = Rgb(255, 255, 255);
 constexpr Color Tinta = Rgb(31, 41, 55);
 constexpr Color Niebla = Rgb(241, 245, 249);
-constexpr Color Plata = Rgb(203, 213, 225);
+constexpr Color Pizarra = Rgb(51, 65, 85);
+constexpr Color Acero = Rgb(100, 116, 139);
+constexpr Color Oro = Rgb(253, 216, 96);
 constexpr Color Cielo = Rgb(191, 219, 254);
 constexpr Color Azul = Rgb(37, 99, 235);
 constexpr Color Marino = Rgb(30, 58, 138);
@@ -54,9 +56,9 @@ constexpr Muestra Bordes[] = {
 };
 
 constexpr Muestra Letras[] = {
-    {L"Normal", {{{L"TipoLetra", 0}}}},    {L"Levantada", {{{L"TipoLetra", 1}}}},
-    {L"Hundida", {{{L"TipoLetra", 2}}}},   {L"Inversa L", {{{L"TipoLetra", 3}}}},
-    {L"Inversa U", {{{L"TipoLetra", 4}}}},
+    {L"Normal", {{{L"TipoLetra", 0}}}},  {L"Levantada", {{{L"TipoLetra", 1}}}},
+    {L"Undida", {{{L"TipoLetra", 2}}}},  {L"InvesoL", {{{L"TipoLetra", 3}}}},
+    {L"InvesoU", {{{L"TipoLetra", 4}}}},
 };
 
 /// Cards of samples: the tables of the page of buttons, with panels for buttons.
@@ -64,10 +66,10 @@ constexpr Grupo Grupos[] = {
     {L"Rellenos", 24, 76, 676, 140, 5, 88, {}, {{{L"AlinText", Medio}, {L"EstilosBord", Lineal},
      {L"ColorLetra", Tinta}}}, Rellenos},
     {L"Bordes, junto al cuadro de grupo de la plataforma", 24, 226, 676, 140, 6, 88, {},
-     {{{L"AlinText", IzqSup}, {L"ColorFondo", CaraDeBoton}, {L"SeparaBorde", 2}}}, Bordes},
+     {{{L"AlinText", Medio}, {L"ColorFondo", CaraDeBoton}, {L"SeparaBorde", 2}}}, Bordes},
     {L"Letras", 24, 376, 676, 100, 5, 48, {},
      {{{L"AlinText", Medio}, {L"EstilosBord", Ninguno}, {L"EstilosRell", Vertical},
-       {L"ColorDegrade", Tonos(Plata, Niebla, Plata)}, {L"ColorLetra", Azul},
+       {L"ColorDegrade", Tonos(Pizarra, Acero)}, {L"ColorLetra", Oro},
        {L"Font", Fuente{12, true}}}}, Letras},
 };
 
@@ -90,8 +92,9 @@ PaginaPaneles::PaginaPaneles(const std::optional<Componente>& componente, HWND p
       diario_(forma_.Ventana(), Escalar(LugarDiario), lamina_.Texto()), componente_(componente) {
     forma_.alPintar = [this](HDC hdc, const RECT& sucio) { Pintar(hdc, sucio); };
     const RECT grupo = Escalar(LugarDeMuestra(Grupos[1], 5));
+    // Transparent, so that the card is painted inside its line too.
     const HWND cuadro = CreateWindowExW(
-        0, L"BUTTON", L"De grupo", WS_CHILD | WS_VISIBLE | BS_GROUPBOX, grupo.left, grupo.top,
+        WS_EX_TRANSPARENT, L"BUTTON", L"De grupo", WS_CHILD | WS_VISIBLE | BS_GROUPBOX, grupo.left, grupo.top,
         Ancho(grupo), Alto(grupo), forma_.Ventana(), nullptr, nullptr, nullptr);
     SendMessageW(cuadro, WM_SETFONT, reinterpret_cast<WPARAM>(lamina_.Texto()), TRUE);
     if (componente_) {
