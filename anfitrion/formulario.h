@@ -41,8 +41,9 @@ class Formulario {
     // Controls
 
     /// Creates, initialises and activates a control; throws FalloCom. The form keeps it until
-    /// Quitar; the result stays valid as long as somebody holds it. With `dentro` the control stands
-    /// on that one: its parent window is that one's, and it goes when that one is taken away.
+    /// Quitar; the result stays valid as long as somebody holds it. With `dentro` the control
+    /// stands on that one: its parent window is that one's, and it goes when that one is taken
+    /// away.
     std::shared_ptr<ControlAlojado> Agregar(const Componente& componente, REFCLSID clase,
                                             const std::wstring& nombre, const RECT& rectangulo,
                                             const Origen& origen = {},

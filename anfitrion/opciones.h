@@ -26,7 +26,8 @@ struct OpcionesSitio {
     static OpcionesSitio Pobre() {
         OpcionesSitio o;
         o.sitioControl = o.ambientes = o.avisosPropiedad = o.avisosVista = o.marcoSimple = false;
-        o.contenidos = o.servicios = o.sitioExtendido = o.contenedor = o.controlExtendido = o.marco = false;
+        o.contenidos = o.servicios = o.sitioExtendido = o.contenedor = o.controlExtendido =
+            o.marco = false;
         return o;
     }
 };

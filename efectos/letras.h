@@ -37,8 +37,8 @@ constexpr std::int32_t DireccionLetra(TLetra tipo) {
 /// for every other one.
 Color ColorDeSombra(Efectos& efectos, TLetra tipo, Color letra, Color directa);
 
-/// Whether a caption whose font is `propia` takes the container's `nueva`: it does as long as it has
-/// the one the container had before.
+/// Whether a caption whose font is `propia` takes the container's `nueva`: it does as long as it
+/// has the one the container had before.
 bool SigueAlAmbiente(const Fuente& propia, const AtributosFuente& anterior, const Fuente& nueva);
 
 /// The one character after the first "&" of a caption; empty when there is none. A doubled

@@ -38,8 +38,8 @@ OpcionesFormulario OpcionesDePagina(HWND padre) {
 
 Marco::Marco()
     : forma_(OpcionesDelMarco()),
-      pestanas_(CreateWindowExW(0, WC_TABCONTROLW, L"", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, 0, 0,
-                                Escala(AnchoPagina), 0, forma_.Ventana(), nullptr, nullptr,
+      pestanas_(CreateWindowExW(0, WC_TABCONTROLW, L"", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, 0,
+                                0, Escala(AnchoPagina), 0, forma_.Ventana(), nullptr, nullptr,
                                 nullptr)),
       fuente_(CrearFuenteGdi(9, FW_NORMAL).release(), &DeleteObject) {
     SendMessageW(pestanas_, WM_SETFONT, reinterpret_cast<WPARAM>(fuente_.get()), TRUE);

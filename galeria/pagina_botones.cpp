@@ -29,7 +29,8 @@ constexpr RECT LugarLimpiar{TarjetaEventos.right - 14 - 95, TarjetaEventos.botto
 } // namespace
 
 PaginaBotones::PaginaBotones(const std::optional<Componente>& componente, HWND padre)
-    : forma_(OpcionesDePagina(padre)), diario_(forma_.Ventana(), Escalar(LugarDiario), lamina_.Texto()) {
+    : forma_(OpcionesDePagina(padre)),
+      diario_(forma_.Ventana(), Escalar(LugarDiario), lamina_.Texto()) {
     forma_.alPintar = [this](HDC hdc, const RECT& sucio) { lamina_.Pintar(hdc, sucio); };
     if (componente) {
         for (const Grupo& grupo : GruposDeBotones)

@@ -37,8 +37,7 @@ enum Lugar { IzqSup, Medio = 4 };
 
 constexpr Muestra Rellenos[] = {
     {L"Sólido", {{{L"ColorFondo", Cielo}}}},
-    {L"Horizontal",
-     {{{L"EstilosRell", Horizontal}, {L"ColorDegrade", Tonos(Blanco, Cielo)}}}},
+    {L"Horizontal", {{{L"EstilosRell", Horizontal}, {L"ColorDegrade", Tonos(Blanco, Cielo)}}}},
     {L"Vertical", {{{L"EstilosRell", Vertical}, {L"ColorDegrade", Tonos(Blanco, Cielo)}}}},
     {L"Pirámide", {{{L"EstilosRell", Piramide}, {L"ColorDegrade", Tonos(Blanco, Cielo)}}}},
     {L"Cuatro tonos",
@@ -63,14 +62,41 @@ constexpr Muestra Letras[] = {
 
 /// Cards of samples: the tables of the page of buttons, with panels for buttons.
 constexpr Grupo Grupos[] = {
-    {L"Rellenos", 24, 76, 676, 140, 5, 88, {}, {{{L"AlinText", Medio}, {L"EstilosBord", Lineal},
-     {L"ColorLetra", Tinta}}}, Rellenos},
-    {L"Bordes, junto al cuadro de grupo de la plataforma", 24, 226, 676, 140, 6, 88, {},
-     {{{L"AlinText", Medio}, {L"ColorFondo", CaraDeBoton}, {L"SeparaBorde", 2}}}, Bordes},
-    {L"Letras", 24, 376, 676, 100, 5, 48, {},
-     {{{L"AlinText", Medio}, {L"EstilosBord", Ninguno}, {L"EstilosRell", Vertical},
-       {L"ColorDegrade", Tonos(Pizarra, Acero)}, {L"ColorLetra", Oro},
-       {L"Font", Fuente{12, true}}}}, Letras},
+    {L"Rellenos",
+     24,
+     76,
+     676,
+     140,
+     5,
+     88,
+     {},
+     {{{L"AlinText", Medio}, {L"EstilosBord", Lineal}, {L"ColorLetra", Tinta}}},
+     Rellenos},
+    {L"Bordes, junto al cuadro de grupo de la plataforma",
+     24,
+     226,
+     676,
+     140,
+     6,
+     88,
+     {},
+     {{{L"AlinText", Medio}, {L"ColorFondo", CaraDeBoton}, {L"SeparaBorde", 2}}},
+     Bordes},
+    {L"Letras",
+     24,
+     376,
+     676,
+     100,
+     5,
+     48,
+     {},
+     {{{L"AlinText", Medio},
+       {L"EstilosBord", Ninguno},
+       {L"EstilosRell", Vertical},
+       {L"ColorDegrade", Tonos(Pizarra, Acero)},
+       {L"ColorLetra", Oro},
+       {L"Font", Fuente{12, true}}}},
+     Letras},
 };
 
 constexpr RECT TarjetaPanel{24, 486, 700, 664};
@@ -94,8 +120,8 @@ PaginaPaneles::PaginaPaneles(const std::optional<Componente>& componente, HWND p
     const RECT grupo = Escalar(LugarDeMuestra(Grupos[1], 5));
     // Transparent, so that the card is painted inside its line too.
     const HWND cuadro = CreateWindowExW(
-        WS_EX_TRANSPARENT, L"BUTTON", L"De grupo", WS_CHILD | WS_VISIBLE | BS_GROUPBOX, grupo.left, grupo.top,
-        Ancho(grupo), Alto(grupo), forma_.Ventana(), nullptr, nullptr, nullptr);
+        WS_EX_TRANSPARENT, L"BUTTON", L"De grupo", WS_CHILD | WS_VISIBLE | BS_GROUPBOX, grupo.left,
+        grupo.top, Ancho(grupo), Alto(grupo), forma_.Ventana(), nullptr, nullptr, nullptr);
     SendMessageW(cuadro, WM_SETFONT, reinterpret_cast<WPARAM>(lamina_.Texto()), TRUE);
     if (componente_) {
         PonerMuestras();
@@ -112,8 +138,8 @@ void PaginaPaneles::Pintar(HDC hdc, const RECT& cliente) const {
                         L"Un clic en un panel, o Espacio cuando tiene el foco, es un Click; lo que "
                         L"está dentro se mueve y se recorta con él."});
     for (const Grupo& grupo : Grupos)
-        lamina_.PintarTarjeta(
-            hdc, {grupo.x, grupo.y, grupo.x + grupo.ancho, grupo.y + grupo.alto}, grupo.titulo);
+        lamina_.PintarTarjeta(hdc, {grupo.x, grupo.y, grupo.x + grupo.ancho, grupo.y + grupo.alto},
+                              grupo.titulo);
     lamina_.PintarTarjeta(hdc, TarjetaPanel, L"Un panel con controles dentro");
     // The group box paints no more than its line and its title.
     const RECT grupo = Escalar(LugarDeMuestra(Grupos[1], 5));
@@ -156,8 +182,9 @@ void PaginaPaneles::PonerPanelConControles() {
         {L"Font", Fuente{9, true}},
     };
     static constexpr Par DelTransparente[] = {
-        {L"Caption", L"Transparente"}, {L"AlinText", IzqSup},    {L"EstilosBord", Normal},
-        {L"BackStyle", 0},             {L"ColorLetra", Azul},
+        {L"Caption", L"Transparente"}, {L"AlinText", IzqSup},
+        {L"EstilosBord", Normal},      {L"BackStyle", 0},
+        {L"ColorLetra", Azul},
     };
     panel_ = Poner(ClaseArea, L"Panel", LugarPanel, {}, DelPanel);
     int x = 16;

@@ -26,7 +26,8 @@ struct Ordenes {
 };
 
 template <class P>
-std::unique_ptr<galeria::Pagina> HacerPagina(const std::optional<Componente>& componente, HWND padre) {
+std::unique_ptr<galeria::Pagina> HacerPagina(const std::optional<Componente>& componente,
+                                             HWND padre) {
     return std::make_unique<P>(componente, padre);
 }
 

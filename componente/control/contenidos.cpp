@@ -106,8 +106,8 @@ class ContenidoTardio final : public ControlContenido {
     void APixeles(float& x, float& y, DWORD clase) const {
         POINTF contenedor{x, y};
         POINTL himetric{};
-        if (sitio_ && SUCCEEDED(sitio_->TransformCoords(
-                          &himetric, &contenedor, clase | XFORMCOORDS_CONTAINERTOHIMETRIC))) {
+        if (sitio_ && SUCCEEDED(sitio_->TransformCoords(&himetric, &contenedor,
+                                                        clase | XFORMCOORDS_CONTAINERTOHIMETRIC))) {
             x = static_cast<float>(MulDiv(himetric.x, ppp_, 2540));
             y = static_cast<float>(MulDiv(himetric.y, ppp_, 2540));
         }
@@ -122,7 +122,8 @@ class ContenidoTardio final : public ControlContenido {
 bool PorElSitio(const Ptr<IOleClientSite>& sitio, Objetos& objetos) {
     Ptr<IEnumUnknown> lista;
     const auto control = Ptr<IVBGetControl>::De(sitio.get(), IidGetControl);
-    if (!control || FAILED(control->EnumControls(Cuales, ControlesDentro, lista.Recibir())) || !lista)
+    if (!control || FAILED(control->EnumControls(Cuales, ControlesDentro, lista.Recibir())) ||
+        !lista)
         return false;
     objetos = Recorrer(lista);
     return true;

@@ -61,10 +61,10 @@ HWND VentanaSuperficie::Crear(HWND padre, const RECT& lugar) {
     const auto testigo = nucleo_.Testigo();
     // TAB goes through what is placed inside, also where the platform moves the focus.
     const DWORD estiloEx = nucleo_.sitio.MarcoSimple() ? WS_EX_CONTROLPARENT : 0;
-    const HWND ventana =
-        ::CreateWindowExW(estiloEx, NombreDeClase, nullptr, WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN,
-                          lugar.left, lugar.top, lugar.right - lugar.left, lugar.bottom - lugar.top,
-                          padre, nullptr, ModuloPropio(), this);
+    const HWND ventana = ::CreateWindowExW(
+        estiloEx, NombreDeClase, nullptr, WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, lugar.left,
+        lugar.top, lugar.right - lugar.left, lugar.bottom - lugar.top, padre, nullptr,
+        ModuloPropio(), this);
     if (!ventana || testigo.expired())
         return nullptr;
     const auto campos = nucleo_.campos;

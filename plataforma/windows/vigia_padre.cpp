@@ -10,9 +10,9 @@ void VigiaDelPadre::Vigilar(HWND hija) {
         return;
     Soltar();
     // Refused for a window of another thread: that one is seen as it was at the last painting.
-    if (padre && ::SetWindowSubclass(padre, &VigiaDelPadre::Procedimiento,
-                                     reinterpret_cast<UINT_PTR>(this),
-                                     reinterpret_cast<DWORD_PTR>(this))) {
+    if (padre &&
+        ::SetWindowSubclass(padre, &VigiaDelPadre::Procedimiento, reinterpret_cast<UINT_PTR>(this),
+                            reinterpret_cast<DWORD_PTR>(this))) {
         hija_ = hija;
         padre_ = padre;
     }

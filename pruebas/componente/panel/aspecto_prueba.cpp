@@ -223,10 +223,8 @@ TEST_CASE("lettering stands out, sinks in, or has copies in the inverse colour")
         const RECT primera = Caja(c, caso.primera), segunda = Caja(c, caso.segunda);
         const bool arriba = caso.lado < 0;
         CHECK(primera.left == (arriba ? r.left - 1 : primera.left));
-        CHECK((arriba ? primera.top : primera.bottom) ==
-              (arriba ? r.top : r.bottom) + caso.lado);
-        CHECK((arriba ? segunda.bottom : segunda.top) ==
-              (arriba ? r.bottom : r.top) - caso.lado);
+        CHECK((arriba ? primera.top : primera.bottom) == (arriba ? r.top : r.bottom) + caso.lado);
+        CHECK((arriba ? segunda.bottom : segunda.top) == (arriba ? r.bottom : r.top) - caso.lado);
     }
     b.Poner(L"TipoLetra", 0);
     CHECK(b.Ver().Contar({0, 0, b.W, b.H}, Blanco) == 0);

@@ -35,8 +35,8 @@ TEST_CASE("mouse and keys reach the panel in the host") {
     b.Llevar(b.ventana, 4, 6);
     b.Clic();
     b.Teclear(VK_SPACE);
-    CHECK(b.Sucesos() == Hechos{"MouseDown 1 0 4 6", "MouseUp 1 0 4 6", "Click", "TocoTecla 32",
-                                "Click"});
+    CHECK(b.Sucesos() ==
+          Hechos{"MouseDown 1 0 4 6", "MouseUp 1 0 4 6", "Click", "TocoTecla 32", "Click"});
     CHECK(GetFocus() == b.ventana);
 }
 

@@ -19,9 +19,7 @@ struct BancoMarcas : BancoPanel {
         Color(L"ColorFondo", Azul);
         Color(L"ColorLetra", Rojo);
     }
-    bool Marcado(const RECT& r) {
-        return EnContorno(Ver(), Marca(r), Rojo) == Contorno(Marca(r));
-    }
+    bool Marcado(const RECT& r) { return EnContorno(Ver(), Marca(r), Rojo) == Contorno(Marca(r)); }
     /// Pixels of marks on the whole panel.
     int Tinta() { return Ver().Contar({0, 0, W, H}, Rojo); }
 };

@@ -96,8 +96,7 @@ TEST_CASE("panels see through one another, live, with controls standing on them"
     const auto encima = b.Dentro(L"Encima", {20, 20, 120, 100}, L"Pincela.Area");
     Poner(encima->Despacho(), L"EstilosBord", 0);
     Poner(encima->Despacho(), L"BackStyle", 0);
-    const auto boton =
-        b.Agregar(L"Boton2", {10, 10, 50, 30}, L"Pincela.Botonazo", encima.get());
+    const auto boton = b.Agregar(L"Boton2", {10, 10, 50, 30}, L"Pincela.Botonazo", encima.get());
     Poner(boton->Despacho(), L"EstilosBord", 0);
     Poner(boton->Despacho(), L"Caption", L"");
     Poner(boton->Despacho(), L"ColorFondo", static_cast<long>(Rojo));

@@ -9,12 +9,11 @@ TEST_CASE("a new panel has the values of a new panel") {
     const Panel panel;
     REQUIRE(panel.Como<IPersistStreamInit>()->InitNew() == S_OK);
     CHECK(RetratoDelPanel(panel.get()) ==
-          std::vector<std::string>{"AlinText = 4", "Caption = ", "Font = Arial 82500",
-                                   "ColorLetra = -2147483640", "ColorFondo = 16777215",
-                                   "MouseIcon = Nothing", "MousePointer = 0", "ToolTipText = ",
-                                   "EstilosBord = 1", "EstilosRell = 0", "Enabled = True",
-                                   "SeparaBorde = 1", "ColorDegrade = ", "BackStyle = 1",
-                                   "AnchoBorde = 1", "TipoLetra = 0"});
+          std::vector<std::string>{
+              "AlinText = 4", "Caption = ", "Font = Arial 82500", "ColorLetra = -2147483640",
+              "ColorFondo = 16777215", "MouseIcon = Nothing", "MousePointer = 0", "ToolTipText = ",
+              "EstilosBord = 1", "EstilosRell = 0", "Enabled = True", "SeparaBorde = 1",
+              "ColorDegrade = ", "BackStyle = 1", "AnchoBorde = 1", "TipoLetra = 0"});
 }
 
 TEST_CASE("a panel that nobody initialised is a new one") {
