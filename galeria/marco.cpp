@@ -48,11 +48,6 @@ Marco::Marco()
             Mostrar(static_cast<std::size_t>(SendMessageW(pestanas_, TCM_GETCURSEL, 0, 0)));
             return true;
         }
-        if (mensaje == WM_GETMINMAXINFO) {
-            // A picture shows the whole page, also where the screen is smaller.
-            reinterpret_cast<MINMAXINFO*>(l)->ptMaxTrackSize = {SHRT_MAX, SHRT_MAX};
-            return true;
-        }
         if (mensaje != WM_SETFOCUS || paginas_.empty())
             return false;
         SetFocus(Visible().Forma().Ventana());
