@@ -45,6 +45,10 @@ class Enumerador : public ObjetoCom<IEnumUnknown> {
 
 } // namespace
 
+Puntero<IEnumUnknown> Enumerar(std::vector<Puntero<IUnknown>> objetos) {
+    return Puntero<IEnumUnknown>(new Enumerador(std::move(objetos), 0));
+}
+
 void* Contenedor::Heredada(REFIID iid) {
     return iid == IID_IParseDisplayName ? static_cast<IOleContainer*>(this) : nullptr;
 }
@@ -63,7 +67,7 @@ HRESULT Contenedor::EnumObjects(DWORD cuales, IEnumUnknown** enumerador) {
         for (const auto& control : forma_->Controles())
             if (control->Objeto())
                 objetos.emplace_back(control->Objeto());
-    *enumerador = Puntero<IEnumUnknown>(new Enumerador(std::move(objetos), 0)).Separar();
+    *enumerador = Enumerar(std::move(objetos)).Separar();
     return S_OK;
 }
 

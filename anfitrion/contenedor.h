@@ -11,6 +11,9 @@ namespace anfitrion {
 
 class Formulario;
 
+/// Enumerator over a fixed list of objects.
+Puntero<IEnumUnknown> Enumerar(std::vector<Puntero<IUnknown>> objetos);
+
 /// Shared by all sites of a form; it may outlive the form, and is then empty.
 class Contenedor : public ObjetoCom<IOleContainer> {
   public:

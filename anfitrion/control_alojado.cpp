@@ -7,14 +7,15 @@
 namespace anfitrion {
 
 ControlAlojado::ControlAlojado(Formulario& forma, std::wstring nombre, const RECT& rectangulo,
-                               HWND padre, const OpcionesSitio& opciones)
-    : forma_(forma), nombre_(std::move(nombre)), rectangulo_(rectangulo), padre_(padre),
+                               const std::shared_ptr<ControlAlojado>& dentro,
+                               const OpcionesSitio& opciones)
+    : forma_(forma), nombre_(std::move(nombre)), rectangulo_(rectangulo), dentro_(dentro),
       opciones_(opciones), sitio_(Hacer<SitioCliente>(*this)), avisos_(Hacer<Avisos>()) {
     info_.cb = sizeof info_;
     avisos_->alLlamar = [this](const char* llamada) { Anotar(llamada); };
     avisos_->alCambiarVista = [this] {
         if (!enSitio_)
-            InvalidateRect(padre_, &rectangulo_, TRUE);
+            InvalidateRect(VentanaPadre(), &rectangulo_, TRUE);
     };
 }
 
@@ -145,7 +146,7 @@ HRESULT ControlAlojado::Verbo(LONG verbo, MSG* mensaje) {
     if (!objeto)
         return E_UNEXPECTED;
     RECT rectangulo = rectangulo_;
-    return objeto->DoVerb(verbo, mensaje, sitio_.get(), 0, padre_, &rectangulo);
+    return objeto->DoVerb(verbo, mensaje, sitio_.get(), 0, VentanaPadre(), &rectangulo);
 }
 
 void ControlAlojado::Activar(bool ui) {
@@ -159,6 +160,12 @@ HWND ControlAlojado::Ventana() const {
     return ventana;
 }
 
+HWND ControlAlojado::VentanaPadre() const {
+    const auto dentro = Dentro();
+    const HWND ventana = dentro ? dentro->Ventana() : nullptr;
+    return ventana ? ventana : forma_.Ventana();
+}
+
 void ControlAlojado::Mover(const RECT& rectangulo) {
     const RECT viejo = rectangulo_;
     rectangulo_ = rectangulo;
@@ -167,18 +174,26 @@ void ControlAlojado::Mover(const RECT& rectangulo) {
     if (Ancho(viejo) != Ancho(rectangulo) || Alto(viejo) != Alto(rectangulo)) {
         const int puntos = PuntosPorPulgada();
         SIZEL medida{AHimetric(Ancho(rectangulo), puntos), AHimetric(Alto(rectangulo), puntos)};
+        moviendo_ = true;
         objeto_->SetExtent(DVASPECT_CONTENT, &medida);
+        moviendo_ = false;
     }
     if (enSitio_) {
         RECT recorte;
-        GetClientRect(padre_, &recorte);
+        GetClientRect(VentanaPadre(), &recorte);
         RECT copia = rectangulo_;
         if (const auto enSitio = Como<IOleInPlaceObject>())
             enSitio->SetObjectRects(&copia, &recorte);
     } else {
-        InvalidateRect(padre_, &viejo, TRUE);
-        InvalidateRect(padre_, &rectangulo_, TRUE);
+        InvalidateRect(VentanaPadre(), &viejo, TRUE);
+        InvalidateRect(VentanaPadre(), &rectangulo_, TRUE);
     }
+}
+
+void ControlAlojado::PedirLugar(const RECT& rectangulo) {
+    // Asked for in answer to a new size, it is the new size at the old place.
+    if (!moviendo_)
+        Mover(rectangulo);
 }
 
 void ControlAlojado::PonerVisible(bool visible) {
@@ -187,7 +202,7 @@ void ControlAlojado::PonerVisible(bool visible) {
     visible_ = visible;
     if (enSitio_)
         Verbo(visible ? OLEIVERB_SHOW : OLEIVERB_HIDE);
-    InvalidateRect(padre_, &rectangulo_, TRUE);
+    InvalidateRect(VentanaPadre(), &rectangulo_, TRUE);
 }
 
 void ControlAlojado::LeerInfo() {

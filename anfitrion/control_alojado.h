@@ -27,8 +27,9 @@ struct Origen {
 /// Created by Formulario::Agregar. Rectangles are in pixels of the parent's client area.
 class ControlAlojado : public std::enable_shared_from_this<ControlAlojado> {
   public:
-    ControlAlojado(Formulario& forma, std::wstring nombre, const RECT& rectangulo, HWND padre,
-                   const OpcionesSitio& opciones);
+    /// With `dentro` it stands on that control, else on the form.
+    ControlAlojado(Formulario& forma, std::wstring nombre, const RECT& rectangulo,
+                   const std::shared_ptr<ControlAlojado>& dentro, const OpcionesSitio& opciones);
     ControlAlojado(const ControlAlojado&) = delete;
     ControlAlojado& operator=(const ControlAlojado&) = delete;
     ~ControlAlojado();
@@ -44,6 +45,8 @@ class ControlAlojado : public std::enable_shared_from_this<ControlAlojado> {
     void PonerNombre(const std::wstring& nombre) { nombre_ = nombre; }
     Formulario& Forma() const { return forma_; }
     const OpcionesSitio& Opciones() const { return opciones_; }
+    /// What the site offers from now on.
+    void PonerOpciones(const OpcionesSitio& opciones) { opciones_ = opciones; }
 
     IOleObject* Objeto() const { return objeto_.get(); }
     /// Default dispatch interface of the control; null after Cerrar.
@@ -55,7 +58,10 @@ class ControlAlojado : public std::enable_shared_from_this<ControlAlojado> {
         return objeto_.Como<T>();
     }
 
-    HWND VentanaPadre() const { return padre_; }
+    /// The control this one stands on; null for the form itself.
+    std::shared_ptr<ControlAlojado> Dentro() const { return dentro_.lock(); }
+    /// Window of that control while it has one, else the form's.
+    HWND VentanaPadre() const;
     /// Window of the in-place active control; null when it is not active.
     HWND Ventana() const;
     bool EstaEnSitio() const { return enSitio_; }
@@ -64,6 +70,8 @@ class ControlAlojado : public std::enable_shared_from_this<ControlAlojado> {
 
     const RECT& Rectangulo() const { return rectangulo_; }
     void Mover(const RECT& rectangulo);
+    /// The control itself wants to be there.
+    void PedirLugar(const RECT& rectangulo);
     bool Visible() const { return visible_; }
     void PonerVisible(bool visible);
 
@@ -112,7 +120,7 @@ class ControlAlojado : public std::enable_shared_from_this<ControlAlojado> {
     Formulario& forma_;
     std::wstring nombre_;
     RECT rectangulo_;
-    HWND padre_;
+    std::weak_ptr<ControlAlojado> dentro_;
     OpcionesSitio opciones_;
     Puntero<SitioCliente> sitio_;
     Puntero<Avisos> avisos_;
@@ -129,6 +137,7 @@ class ControlAlojado : public std::enable_shared_from_this<ControlAlojado> {
     bool enSitio_ = false;
     bool visible_ = true;
     bool foco_ = false;
+    bool moviendo_ = false;
     bool cerrado_ = false;
 };
 

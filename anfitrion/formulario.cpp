@@ -24,6 +24,7 @@ Formulario::~Formulario() {
     *vivo_ = false;
     alPintar = nullptr;
     alRecibir = nullptr;
+    alFiltrar = nullptr;
     activo_.reset();
     seleccion_.clear();
     while (!controles_.empty()) {
@@ -49,9 +50,8 @@ std::shared_ptr<ControlAlojado> Formulario::Agregar(const Puntero<IUnknown>& obj
                                                     const std::wstring& nombre,
                                                     const RECT& rectangulo, const Origen& origen,
                                                     ControlAlojado* dentro) {
-    const HWND padre = dentro && dentro->Ventana() ? dentro->Ventana() : ventana_;
-    const auto control =
-        std::make_shared<ControlAlojado>(*this, nombre, rectangulo, padre, opcionesSitio_);
+    const auto control = std::make_shared<ControlAlojado>(
+        *this, nombre, rectangulo, dentro ? dentro->shared_from_this() : nullptr, opcionesSitio_);
     control->orden = siguienteOrden_++;
     // On the form before it is activated: the control may ask about itself meanwhile.
     controles_.push_back(control);
@@ -70,6 +70,9 @@ std::shared_ptr<ControlAlojado> Formulario::Agregar(const Puntero<IUnknown>& obj
 
 ULONG Formulario::Quitar(ControlAlojado& control) {
     const auto sostenido = control.shared_from_this();
+    // What stands on it goes first, while its window is still there.
+    for (const auto& otro : ControlesEn(&control))
+        Quitar(*otro);
     const ULONG queda = control.Cerrar();
     return queda;
 }
@@ -79,6 +82,15 @@ void Formulario::ControlCerrado(ControlAlojado& control) {
         activo_.reset();
     std::erase_if(seleccion_, [&](auto& c) { return c.get() == &control; });
     std::erase_if(controles_, [&](auto& c) { return c.get() == &control; });
+}
+
+std::vector<std::shared_ptr<ControlAlojado>>
+Formulario::ControlesEn(const ControlAlojado* dentro) const {
+    std::vector<std::shared_ptr<ControlAlojado>> encontrados;
+    for (const auto& control : controles_)
+        if (control->Dentro().get() == dentro)
+            encontrados.push_back(control);
+    return encontrados;
 }
 
 std::shared_ptr<ControlAlojado> Formulario::Control(const std::wstring& nombre) const {
@@ -145,7 +157,7 @@ void Formulario::PonerModoUsuario(bool usuario) {
     CambiarAmbiente(DISPID_AMBIENT_USERMODE, [&](Ambiente& a) { a.modoUsuario = usuario; });
     seleccion_.clear();
     PonerCapa();
-    InvalidateRect(ventana_, nullptr, TRUE);
+    RedrawWindow(ventana_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void Formulario::Seleccionar(const std::shared_ptr<ControlAlojado>& control, bool anadir) {
@@ -156,7 +168,8 @@ void Formulario::Seleccionar(const std::shared_ptr<ControlAlojado>& control, boo
         seleccion_.erase(ya);
     else if (control)
         seleccion_.push_back(control);
-    InvalidateRect(ventana_, nullptr, TRUE);
+    // The handles of what stands on a panel are drawn there.
+    RedrawWindow(ventana_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     if (const auto manejador = alSeleccionar)
         manejador();
 }

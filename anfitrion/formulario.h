@@ -41,8 +41,9 @@ class Formulario {
     // Controls
 
     /// Creates, initialises and activates a control; throws FalloCom. The form keeps it until
-    /// Quitar; the result stays valid as long as somebody holds it. With `dentro` the control's
-    /// parent window is that control's.
+    /// Quitar; the result stays valid as long as somebody holds it. With `dentro` the control
+    /// stands on that one: its parent window is that one's, and it goes when that one is taken
+    /// away.
     std::shared_ptr<ControlAlojado> Agregar(const Componente& componente, REFCLSID clase,
                                             const std::wstring& nombre, const RECT& rectangulo,
                                             const Origen& origen = {},
@@ -55,6 +56,8 @@ class Formulario {
     /// Closes one control; answers the count of references left by the last release.
     ULONG Quitar(ControlAlojado& control);
     const std::vector<std::shared_ptr<ControlAlojado>>& Controles() const { return controles_; }
+    /// Those that stand on a control, in the order they were added; on the form itself for null.
+    std::vector<std::shared_ptr<ControlAlojado>> ControlesEn(const ControlAlojado* dentro) const;
     std::shared_ptr<ControlAlojado> Control(const std::wstring& nombre) const;
     /// A window of the application's own takes part in the tab order.
     void AgregarVentana(HWND ventana, long orden);
@@ -101,6 +104,8 @@ class Formulario {
     std::function<void(int, HWND)> alOrdenar; ///< WM_COMMAND of own windows: code, window
     std::function<bool(UINT, WPARAM, LPARAM, LRESULT&)> alRecibir; ///< any message; true: done
     std::function<bool(ControlAlojado&)> alPedirPropiedades;
+    /// A message of a window that holds controls, before that control handles it; true: done.
+    std::function<bool(ControlAlojado&, UINT, WPARAM, LPARAM, LRESULT&)> alFiltrar;
 
     // For the sites
 
@@ -112,6 +117,8 @@ class Formulario {
     void UIDesactivado(ControlAlojado& control);
     void ControlCerrado(ControlAlojado& control);
     bool PedirPropiedades(ControlAlojado& control);
+    bool Filtrar(ControlAlojado& control, UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado);
+    void Filtrado(ControlAlojado& control, HWND ventana, UINT mensaje);
 
   private:
     /// One stop of the tab order: a control or a window of the application.
@@ -131,7 +138,7 @@ class Formulario {
     void CrearVentana(const OpcionesFormulario& opciones);
     LRESULT Tratar(UINT mensaje, WPARAM w, LPARAM l);
     void Pintar(HDC hdc, const RECT& sucio);
-    void PintarSeleccion(HDC hdc) const;
+    void PintarControles(HDC hdc, const ControlAlojado* dentro) const;
     void AlActivarVentana(bool activa);
     std::vector<Parada> Paradas() const;
     std::size_t ParadaActual(const std::vector<Parada>& paradas) const;

@@ -130,15 +130,32 @@ void Formulario::Pintar(HDC hdc, const RECT& sucio) {
         manejador(hdc, sucio);
     else
         FillRect(hdc, &sucio, GetSysColorBrush(COLOR_BTNFACE));
-    for (const auto& control : controles_)
-        if (control->VentanaPadre() == ventana_)
-            control->Dibujar(hdc);
-    PintarSeleccion(hdc);
+    PintarControles(hdc, nullptr);
 }
 
-void Formulario::PintarSeleccion(HDC hdc) const {
+bool Formulario::Filtrar(ControlAlojado& control, UINT mensaje, WPARAM w, LPARAM l,
+                         LRESULT& resultado) {
+    const auto manejador = alFiltrar;
+    return manejador && manejador(control, mensaje, w, l, resultado);
+}
+
+void Formulario::Filtrado(ControlAlojado& control, HWND ventana, UINT mensaje) {
+    if (mensaje != WM_PAINT)
+        return;
+    // The panel has painted itself; what stands on it without a window comes over it.
+    const HDC hdc = GetDC(ventana);
+    PintarControles(hdc, &control);
+    ReleaseDC(ventana, hdc);
+}
+
+/// Inactive controls and, in design mode, the handles of the selected ones.
+void Formulario::PintarControles(HDC hdc, const ControlAlojado* dentro) const {
     constexpr int Agarre = 6;
+    for (const auto& control : ControlesEn(dentro))
+        control->Dibujar(hdc);
     for (const auto& control : seleccion_) {
+        if (control->Dentro().get() != dentro)
+            continue;
         const RECT& r = control->Rectangulo();
         const LONG xs[] = {r.left - Agarre, (r.left + r.right - Agarre) / 2, r.right};
         const LONG ys[] = {r.top - Agarre, (r.top + r.bottom - Agarre) / 2, r.bottom};

@@ -10,6 +10,7 @@ struct OpcionesSitio {
     bool avisosPropiedad = true;   ///< connects an IPropertyNotifySink
     bool avisosVista = true;       ///< connects an IAdviseSink (view and object)
     bool marcoSimple = true;       ///< ISimpleFrameSite
+    bool contenidos = true;        ///< IVBGetControl: a panel learns what stands on it
     bool servicios = true;         ///< IServiceProvider
     bool sitioExtendido = true;    ///< IOleInPlaceSiteEx besides IOleInPlaceSite
     bool contenedor = true;        ///< GetContainer gives an IOleContainer
@@ -25,7 +26,8 @@ struct OpcionesSitio {
     static OpcionesSitio Pobre() {
         OpcionesSitio o;
         o.sitioControl = o.ambientes = o.avisosPropiedad = o.avisosVista = o.marcoSimple = false;
-        o.servicios = o.sitioExtendido = o.contenedor = o.controlExtendido = o.marco = false;
+        o.contenidos = o.servicios = o.sitioExtendido = o.contenedor = o.controlExtendido =
+            o.marco = false;
         return o;
     }
 };

@@ -21,6 +21,8 @@ bool SitioCliente::Ofrece(REFIID iid) const {
         return o.ambientes;
     if (iid == IID_ISimpleFrameSite)
         return o.marcoSimple;
+    if (iid == __uuidof(IVBGetControl))
+        return o.contenidos;
     if (iid == IID_IServiceProvider)
         return o.servicios;
     if (iid == IID_IOleInPlaceSiteEx)
@@ -169,7 +171,7 @@ HRESULT SitioCliente::OnPosRectChange(LPCRECT rectangulo) {
         return E_POINTER;
     if (!control_)
         return E_UNEXPECTED;
-    control_->Mover(*rectangulo);
+    control_->PedirLugar(*rectangulo);
     return S_OK;
 }
 
@@ -302,13 +304,39 @@ HRESULT SitioCliente::Invoke(DISPID numero, REFIID, LCID, WORD modo, DISPPARAMS*
 
 // ISimpleFrameSite
 
-HRESULT SitioCliente::PreMessageFilter(HWND, UINT, WPARAM, LPARAM, LRESULT*, DWORD* cookie) {
-    if (cookie)
-        *cookie = 0;
-    return S_OK; // the control goes on with the message
+HRESULT SitioCliente::PreMessageFilter(HWND, UINT mensaje, WPARAM w, LPARAM l, LRESULT* resultado,
+                                       DWORD* cookie) {
+    if (!resultado || !cookie)
+        return E_POINTER;
+    *cookie = 0;
+    if (!control_)
+        return E_UNEXPECTED;
+    return control_->Forma().Filtrar(*control_, mensaje, w, l, *resultado) ? S_FALSE : S_OK;
 }
 
-HRESULT SitioCliente::PostMessageFilter(HWND, UINT, WPARAM, LPARAM, LRESULT*, DWORD) {
+HRESULT SitioCliente::PostMessageFilter(HWND ventana, UINT mensaje, WPARAM, LPARAM, LRESULT*,
+                                        DWORD) {
+    if (control_)
+        control_->Forma().Filtrado(*control_, ventana, mensaje);
+    return S_OK;
+}
+
+// IVBGetControl
+
+HRESULT SitioCliente::EnumControls(DWORD, DWORD donde, IEnumUnknown** lista) {
+    Anotar("IVBGetControl::EnumControls", std::to_string(donde));
+    if (!lista)
+        return E_POINTER;
+    *lista = nullptr;
+    if (!control_)
+        return E_UNEXPECTED;
+    if (donde != ControlesContenidos)
+        return E_NOTIMPL;
+    std::vector<Puntero<IUnknown>> objetos;
+    for (const auto& control : control_->Forma().ControlesEn(control_))
+        if (control->Objeto())
+            objetos.emplace_back(control->Objeto());
+    *lista = Enumerar(std::move(objetos)).Separar();
     return S_OK;
 }
 

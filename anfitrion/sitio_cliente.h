@@ -2,6 +2,7 @@
 #pragma once
 
 #include "anfitrion/com.h"
+#include "anfitrion/contenidos.h"
 
 #include <ocidl.h>
 #include <servprov.h>
@@ -16,7 +17,7 @@ class ControlAlojado;
 /// with one identity. It outlives its control when somebody keeps a reference: after Desconectar
 /// every call answers E_UNEXPECTED.
 class SitioCliente : public ObjetoCom<IOleClientSite, IOleInPlaceSiteEx, IOleControlSite, IDispatch,
-                                      ISimpleFrameSite, IServiceProvider> {
+                                      ISimpleFrameSite, IVBGetControl, IServiceProvider> {
   public:
     /// `control` is not owned.
     explicit SitioCliente(ControlAlojado& control) : control_(&control) {}
@@ -73,6 +74,10 @@ class SitioCliente : public ObjetoCom<IOleClientSite, IOleInPlaceSiteEx, IOleCon
                                                DWORD* cookie) override;
     HRESULT STDMETHODCALLTYPE PostMessageFilter(HWND, UINT, WPARAM, LPARAM, LRESULT*,
                                                 DWORD) override;
+
+    // IVBGetControl
+    HRESULT STDMETHODCALLTYPE EnumControls(DWORD cuales, DWORD donde,
+                                           IEnumUnknown** lista) override;
 
     // IServiceProvider
     HRESULT STDMETHODCALLTYPE QueryService(REFGUID, REFIID, void** servicio) override;

@@ -97,6 +97,12 @@ class Area final : public ControlUsuario {
     /// May be called more than once.
     void Terminate() override;
 
+    void AmbientFontChanged(const AtributosFuente& anterior, const Fuente& nueva) override;
+    /// The marks are a designer's.
+    void UserModeChanged() override { Show(); }
+    Accesible Describir() const override;
+    void AccionPorDefecto() override { Click(); }
+
     void Click() override;
     void MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
     void MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y) override;

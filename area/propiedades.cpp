@@ -42,6 +42,7 @@ Texto Area::Caption() const {
 void Area::PonCaption(Texto valor) {
     for (Etiqueta* etiqueta : {lblTitulo.get(), LblSombra.get(), lblSombra2.get()})
         etiqueta->PonCaption(valor);
+    entorno_.AccesibleCambiado();
     Avisar(u"Caption");
 }
 
@@ -136,6 +137,7 @@ void Area::PonEnabled(bool valor) {
     if (valor != m_Enabled)
         lblTitulo->PonEnabled(valor);
     Cambiar(m_Enabled, valor, u"Enabled");
+    entorno_.AccesibleCambiado();
 }
 
 Tamanio Area::SeparaBorde() const {

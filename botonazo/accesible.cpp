@@ -25,8 +25,7 @@ void Botonazo::AccionPorDefecto() {
 }
 
 void Botonazo::AmbientFontChanged(const AtributosFuente& anterior, const Fuente& nueva) {
-    const Fuente propia = lblTitulo->Font();
-    if (!nueva || (propia && propia->Atributos() != anterior))
+    if (!SigueAlAmbiente(lblTitulo->Font(), anterior, nueva))
         return;
     for (Etiqueta* etiqueta : {lblTitulo.get(), LblSombra.get(), lblSombra2.get()})
         etiqueta->PonFont(nueva);

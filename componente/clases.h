@@ -137,7 +137,8 @@ inline constexpr DatosClase DatosArea = {.nombre = L"Area",
                                          .paginas = detalle::PaginasDeArea,
                                          .rasgosOle =
                                              detalle::RasgosDeControl | OLEMISC_SIMPLEFRAME,
-                                         .tamanio = {200, 120}};
+                                         .tamanio = {200, 120},
+                                         .disponible = true};
 inline constexpr DatosClase DatosProPColoresArea = {
     .nombre = L"ProPColoresArea",
     .clase = detalle::PaginaColoresArea,

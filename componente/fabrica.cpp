@@ -20,6 +20,8 @@ Creador CreadorDe(REFCLSID clase) {
         return &CrearEfectos;
     if (clase == DatosBotonazo.clase)
         return &CrearControl<TablaBotonazo, DatosBotonazo>;
+    if (clase == DatosArea.clase)
+        return &CrearControl<TablaArea, DatosArea>;
     return nullptr;
 }
 

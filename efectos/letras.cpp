@@ -9,6 +9,10 @@ Color ColorDeSombra(Efectos& efectos, TLetra tipo, Color letra, Color directa) {
     return EsInversa(tipo) ? Inverso(efectos, letra) : directa;
 }
 
+bool SigueAlAmbiente(const Fuente& propia, const AtributosFuente& anterior, const Fuente& nueva) {
+    return nueva && (!propia || propia->Atributos() == anterior);
+}
+
 Texto TeclaDeAcceso(VistaTexto titulo) {
     const std::uint8_t posicion = Byte(static_cast<std::int64_t>(Posicion(titulo, u"&")));
     if (posicion == 0)

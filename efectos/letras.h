@@ -5,6 +5,7 @@
 #include "common/color.h"
 #include "common/enumeraciones.h"
 #include "common/texto.h"
+#include "plataforma/fuente.h"
 
 #include <cstdint>
 
@@ -35,6 +36,10 @@ constexpr std::int32_t DireccionLetra(TLetra tipo) {
 /// Colour of a shadow copy: the inverse of the caption's colour for the inverse effects, `directa`
 /// for every other one.
 Color ColorDeSombra(Efectos& efectos, TLetra tipo, Color letra, Color directa);
+
+/// Whether a caption whose font is `propia` takes the container's `nueva`: it does as long as it
+/// has the one the container had before.
+bool SigueAlAmbiente(const Fuente& propia, const AtributosFuente& anterior, const Fuente& nueva);
 
 /// The one character after the first "&" of a caption; empty when there is none. A doubled
 /// ampersand is not special: its second one is the key. Raises Desbordamiento when the first "&"

@@ -10,4 +10,8 @@ inline int Escala(int pixeles) {
     return MulDiv(pixeles, puntos, 96);
 }
 
+inline RECT Escalar(const RECT& r) {
+    return {Escala(r.left), Escala(r.top), Escala(r.right), Escala(r.bottom)};
+}
+
 } // namespace galeria

@@ -13,10 +13,6 @@ constexpr COLORREF ColorTitulo = RGB(55, 65, 81);
 constexpr COLORREF ColorNota = RGB(95, 107, 124);
 constexpr COLORREF ColorLinea = RGB(222, 227, 235);
 
-RECT Escalar(const RECT& r) {
-    return {Escala(r.left), Escala(r.top), Escala(r.right), Escala(r.bottom)};
-}
-
 void Llenar(HDC hdc, const RECT& r, COLORREF color) {
     SetDCBrushColor(hdc, color);
     FillRect(hdc, &r, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
@@ -79,21 +75,24 @@ void Lamina::PintarCabeceras(HDC hdc, const Grupo& grupo) const {
     }
 }
 
-void Lamina::Pintar(HDC hdc, const RECT& cliente) const {
+void Lamina::PintarBase(HDC hdc, const RECT& cliente, const Leyendas& leyendas) const {
     Llenar(hdc, cliente, ColorLamina);
-    Escribir(hdc, L"Botonazo", Escalar({24, 18, 300, 50}), titular_, ColorTitular, DT_LEFT);
-    Escribir(hdc, L"Galería de Pincela: un botón, muchas caras", Escalar({160, 22, 700, 52}),
-             texto_, ColorNota, DT_LEFT);
+    Escribir(hdc, leyendas.titular, Escalar({24, 18, 300, 50}), titular_, ColorTitular, DT_LEFT);
+    Escribir(hdc, leyendas.lema, Escalar({160, 22, 700, 52}), texto_, ColorNota, DT_LEFT);
+    PintarTarjeta(hdc, TarjetaEventos, L"Eventos");
+    Escribir(hdc, leyendas.pie, Escalar({24, 668, 956, 696}), texto_, ColorNota, DT_LEFT);
+}
+
+void Lamina::Pintar(HDC hdc, const RECT& cliente) const {
+    PintarBase(hdc, cliente,
+               {L"Botonazo", L"Galería de Pincela: un botón, muchas caras",
+                L"Tabulador recorre los botones, Espacio o Entrar los pulsa, Alt y la letra "
+                L"subrayada también."});
     for (const Grupo& grupo : GruposDeBotones) {
         PintarTarjeta(hdc, {grupo.x, grupo.y, grupo.x + grupo.ancho, grupo.y + grupo.alto},
                       grupo.titulo);
         PintarCabeceras(hdc, grupo);
     }
-    PintarTarjeta(hdc, TarjetaEventos, L"Eventos");
-    Escribir(hdc,
-             L"Tabulador recorre los botones, Espacio o Entrar los pulsa, Alt y la letra "
-             L"subrayada también.",
-             Escalar({24, 668, 956, 696}), texto_, ColorNota, DT_LEFT);
 }
 
 } // namespace galeria

@@ -11,6 +11,8 @@ namespace galeria {
 
 /// Right column of the page, at 96 dpi: the card of the event log.
 constexpr RECT TarjetaEventos{716, 76, 956, 664};
+constexpr RECT LugarDiario{TarjetaEventos.left + 8, TarjetaEventos.top + 36,
+                           TarjetaEventos.right - 8, TarjetaEventos.bottom - 54};
 constexpr int AnchoPagina = 980;
 constexpr int AltoPagina = 700;
 /// Inside of a card: space to the edge, height of the heading, of the column captions, and the gap
@@ -35,11 +37,18 @@ FuenteGdi CrearFuenteGdi(double puntos, int peso);
 class Lamina {
   public:
     Lamina();
+    /// The page of buttons.
     void Pintar(HDC hdc, const RECT& cliente) const;
+    /// What every page has: title, motto, the card of events, a line at the foot.
+    struct Leyendas {
+        const wchar_t *titular, *lema, *pie;
+    };
+    void PintarBase(HDC hdc, const RECT& cliente, const Leyendas& leyendas) const;
+    /// `lugar` at 96 dpi.
+    void PintarTarjeta(HDC hdc, const RECT& lugar, const wchar_t* titulo) const;
     HFONT Texto() const { return static_cast<HFONT>(texto_.get()); }
 
   private:
-    void PintarTarjeta(HDC hdc, const RECT& lugar, const wchar_t* titulo) const;
     void PintarCabeceras(HDC hdc, const Grupo& grupo) const;
 
     FuenteGdi titular_, titulo_, texto_;

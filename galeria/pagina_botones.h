@@ -5,24 +5,25 @@
 #include "galeria/diario.h"
 #include "galeria/lamina.h"
 #include "galeria/muestras.h"
+#include "galeria/pagina.h"
 
 #include <optional>
 
 namespace galeria {
 
-class PaginaBotones {
+class PaginaBotones final : public Pagina {
   public:
     /// Throws anfitrion::FalloCom when the component can't be had. A null component leaves the
     /// page without buttons.
-    explicit PaginaBotones(const std::optional<anfitrion::Componente>& componente);
+    PaginaBotones(const std::optional<anfitrion::Componente>& componente, HWND padre);
 
-    anfitrion::Formulario& Forma() { return forma_; }
+    anfitrion::Formulario& Forma() override { return forma_; }
+    void Abrir() override { diario_.abierto = true; }
     /// Clicks one button and presses the access key of another, so that a picture shows the page at
     /// work.
-    void Ensayar();
+    void Ensayar() override;
 
   private:
-    static anfitrion::OpcionesFormulario Opciones();
     void Poner(const anfitrion::Componente& componente, const Grupo& grupo, int n);
     void PonerLimpiar(const anfitrion::Componente& componente);
     std::shared_ptr<anfitrion::ControlAlojado>

@@ -1,11 +1,15 @@
 // Entry point of the gallery.
-//   galeria [--ocx FILE] [--captura FILE.png] [--vacia]
+//   galeria [--ocx FILE] [--pagina NAME] [--captura FILE.png] [--vacia]
 #include "anfitrion/captura.h"
+#include "galeria/marco.h"
 #include "galeria/pagina_botones.h"
+#include "galeria/pagina_paneles.h"
 
 #include <commctrl.h>
 #include <shellapi.h>
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 #include <string>
 
@@ -16,13 +20,30 @@ using namespace anfitrion;
 struct Ordenes {
     std::wstring captura; ///< picture to write instead of staying on screen
     std::wstring ocx;     ///< component file to use instead of the registered one
+    std::wstring pagina;  ///< name of the page to begin with
     bool vacia = false;   ///< the sheet alone, without controls
     bool ayuda = false;
 };
 
-constexpr wchar_t Uso[] = L"galeria [--ocx FICHERO] [--captura FICHERO.png] [--vacia]\n"
+template <class P>
+std::unique_ptr<galeria::Pagina> HacerPagina(const std::optional<Componente>& componente,
+                                             HWND padre) {
+    return std::make_unique<P>(componente, padre);
+}
+
+constexpr struct {
+    const wchar_t *nombre, *titulo;
+    std::unique_ptr<galeria::Pagina> (*hacer)(const std::optional<Componente>&, HWND);
+} Paginas[] = {
+    {L"botones", L"Botones", &HacerPagina<galeria::PaginaBotones>},
+    {L"paneles", L"Paneles", &HacerPagina<galeria::PaginaPaneles>},
+};
+
+constexpr wchar_t Uso[] = L"galeria [--ocx FICHERO] [--pagina NOMBRE] [--captura FICHERO.png] "
+                          L"[--vacia]\n"
                           L"  --ocx      usa ese componente en vez del registrado\n"
-                          L"  --captura  escribe la página en un PNG y termina\n"
+                          L"  --pagina   empieza por esa página: botones, paneles\n"
+                          L"  --captura  escribe en PNG las páginas, o la que se pide, y termina\n"
                           L"  --vacia    muestra la lámina sin controles\n";
 
 Ordenes LeerOrdenes() {
@@ -35,6 +56,8 @@ Ordenes LeerOrdenes() {
             ordenes.captura = partes[++i];
         else if (parte == L"--ocx" && i + 1 < n)
             ordenes.ocx = partes[++i];
+        else if (parte == L"--pagina" && i + 1 < n)
+            ordenes.pagina = partes[++i];
         else if (parte == L"--vacia")
             ordenes.vacia = true;
         else
@@ -69,28 +92,53 @@ std::wstring Explicar(const FalloCom& fallo, const Ordenes& ordenes) {
     return texto + L").";
 }
 
+/// The file of another page: its name before the extension.
+std::wstring FicheroDe(const std::wstring& fichero, const wchar_t* nombre) {
+    const std::size_t punto = std::min(fichero.rfind(L'.'), fichero.size());
+    return fichero.substr(0, punto) + L"-" + nombre + fichero.substr(punto);
+}
+
+void Retratar(galeria::Marco& marco, const std::wstring& fichero) {
+    Formulario& forma = marco.Visible().Forma();
+    forma.Esperar(200);
+    marco.Visible().Ensayar();
+    forma.Esperar(300);
+    Captura::DeVentana(marco.Ventana()).GuardarPng(fichero);
+}
+
 int Mostrar(const Ordenes& ordenes) {
     std::optional<Componente> componente;
     if (!ordenes.vacia)
         componente =
             ordenes.ocx.empty() ? Componente::DeRegistro() : Componente::DeFichero(ordenes.ocx);
-    galeria::PaginaBotones pagina(componente);
-    Formulario& forma = pagina.Forma();
+    galeria::Marco marco;
+    std::size_t primera = 0;
+    for (const auto& pagina : Paginas)
+        marco.Agregar(pagina.titulo, pagina.hacer(componente, marco.Ventana()));
+    for (std::size_t i = 0; i < std::size(Paginas); ++i)
+        if (ordenes.pagina == Paginas[i].nombre)
+            primera = i;
+    marco.Mostrar(primera);
     if (ordenes.captura.empty()) {
-        forma.Ejecutar();
+        marco.Ejecutar();
         return 0;
     }
-    forma.Esperar(200);
-    pagina.Ensayar();
-    forma.Esperar(300);
-    Captura::DeVentana(forma.Ventana()).GuardarPng(ordenes.captura);
+    Retratar(marco, ordenes.captura);
+    for (std::size_t i = 1; ordenes.pagina.empty() && i < std::size(Paginas); ++i) {
+        marco.Mostrar(i);
+        Retratar(marco, FicheroDe(ordenes.captura, Paginas[i].nombre));
+    }
     return 0;
 }
 
 int Correr() {
     const Ordenes ordenes = LeerOrdenes();
     const bool caja = ordenes.captura.empty();
-    if (ordenes.ayuda) {
+    const bool conocida =
+        ordenes.pagina.empty() ||
+        std::any_of(std::begin(Paginas), std::end(Paginas),
+                    [&](const auto& pagina) { return ordenes.pagina == pagina.nombre; });
+    if (ordenes.ayuda || !conocida) {
         Avisar(Uso, caja);
         return 2;
     }
@@ -108,7 +156,7 @@ int Correr() {
 } // namespace
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
-    INITCOMMONCONTROLSEX controles{sizeof controles, ICC_STANDARD_CLASSES};
+    INITCOMMONCONTROLSEX controles{sizeof controles, ICC_STANDARD_CLASSES | ICC_TAB_CLASSES};
     InitCommonControlsEx(&controles);
     OleInitialize(nullptr);
     const int salida = Correr();

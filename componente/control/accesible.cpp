@@ -125,7 +125,7 @@ HRESULT ObjetoAccesible::get_accFocus(VARIANT* hijo) {
     if (!estandar_)
         return CO_E_OBJNOTCONNECTED;
     if (!fuente_.conFoco())
-        return S_FALSE;
+        return EsGrupo() ? estandar_->get_accFocus(hijo) : S_FALSE;
     V_VT(hijo) = VT_I4;
     V_I4(hijo) = CHILDID_SELF;
     return S_OK;
@@ -165,24 +165,31 @@ HRESULT ObjetoAccesible::accHitTest(long x, long y, VARIANT* hijo) {
         return estado;
     if (x < izquierda || y < arriba || x >= izquierda + ancho || y >= arriba + alto)
         return S_FALSE;
+    if (EsGrupo())
+        return estandar_->accHitTest(x, y, hijo);
     V_VT(hijo) = VT_I4;
     V_I4(hijo) = CHILDID_SELF;
     return S_OK;
 }
 
-// The labels are not parts: a screen reader stops once, at the control.
+// The labels are not parts: a screen reader stops once, at the control. What a container placed
+// inside a group is, and the window's own object knows it.
 HRESULT ObjetoAccesible::get_accChildCount(long* cuantos) {
     if (!cuantos)
         return E_POINTER;
     *cuantos = 0;
-    return S_OK;
+    return EsGrupo() ? estandar_->get_accChildCount(cuantos) : S_OK;
 }
 
-HRESULT ObjetoAccesible::get_accChild(VARIANT, IDispatch** salida) {
+HRESULT ObjetoAccesible::get_accChild(VARIANT hijo, IDispatch** salida) {
     if (!salida)
         return E_POINTER;
     *salida = nullptr;
-    return E_INVALIDARG;
+    return EsGrupo() ? estandar_->get_accChild(hijo, salida) : E_INVALIDARG;
+}
+
+bool ObjetoAccesible::EsGrupo() const {
+    return estandar_ && fuente_.describir().papel == Accesible::Papel::Grupo;
 }
 
 namespace {

@@ -11,7 +11,8 @@
 
 namespace pincela::componente {
 
-/// IAccessible of a control that is one thing, without parts of its own: the platform's standard
+/// IAccessible of a control that is one thing, without parts but the controls placed inside a
+/// group: the platform's standard
 /// object for the window answers whatever is not particular to the control. It may outlive the
 /// control, and then says that it is disconnected.
 class ObjetoAccesible final : public IAccessible {
@@ -65,6 +66,7 @@ class ObjetoAccesible final : public IAccessible {
     HRESULT STDMETHODCALLTYPE put_accValue(VARIANT hijo, BSTR valor) override;
 
   private:
+    bool EsGrupo() const;
     HRESULT Comprobar(const VARIANT& hijo, const void* salida) const;
     HRESULT Texto(const VARIANT& hijo, BSTR* salida,
                   const pincela::Texto& (*cual)(const Accesible&));

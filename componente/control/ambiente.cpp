@@ -1,5 +1,6 @@
 // IOleControl and the ambient properties of the container.
 #include "componente/control/objeto_control.h"
+#include "componente/control/tardio.h"
 
 #include <vector>
 
@@ -8,14 +9,7 @@ namespace pincela::componente {
 bool ObjetoControl::LeerAmbiente(DISPID dispid, VARTYPE tipo, VARIANT* valor) {
     if (!ambiente_)
         return false;
-    VarianteCom leido;
-    DISPPARAMS ninguno{};
-    const HRESULT estado = Ptr<IDispatch>(ambiente_)->Invoke(dispid, IID_NULL, LOCALE_USER_DEFAULT,
-                                                             DISPATCH_PROPERTYGET, &ninguno,
-                                                             leido.Recibir(), nullptr, nullptr);
-    if (FAILED(estado) || V_VT(&leido) == VT_EMPTY)
-        return false;
-    return SUCCEEDED(VariantChangeType(valor, &leido, 0, tipo));
+    return LeerTardio(ambiente_, dispid, tipo, valor);
 }
 
 void ObjetoControl::OlvidarAmbiente() {
@@ -152,8 +146,6 @@ void ObjetoControl::EnviarTab() {
     teclas[1].ki.dwFlags = KEYEVENTF_KEYUP;
     SendInput(2, teclas, sizeof(INPUT));
 }
-
-void ObjetoControl::ControlesContenidos(const std::function<void(ControlContenido&)>&) {}
 
 void ObjetoControl::ErrorEnNotificacion(const ErrorEjecucion& error) noexcept {
     // The platform called, so there is nobody to return a status to: the error is left where a

@@ -41,6 +41,7 @@ HRESULT ObjetoControl::Activar(bool conFoco, HWND padre, const RECT* lugar) {
             Ptr<IOleClientSite>(sitio_)->ShowObject();
     } else if (entorno_.Ventana() && !IsWindowVisible(entorno_.Ventana())) {
         ShowWindow(entorno_.Ventana(), SW_SHOWNA);
+        NucleoSeguro([](ControlUsuario& nucleo) { nucleo.Show(); });
     }
     // A failing status would be fatal for some containers; the others see who is active.
     return conFoco && activoEnSitio_ && Nucleo()->AceptaFoco() ? ActivarInterfaz() : S_OK;

@@ -196,6 +196,7 @@ class ObjetoControl : public IOleObject,
     void EnviarTab() override;
     void ControlesContenidos(const std::function<void(ControlContenido&)>& visita) override;
     bool EntradaCongelada() override;
+    ISimpleFrameSite* MarcoSimple() override { return marcoSimple_.get(); }
     bool Mensaje(HWND ventana, UINT mensaje, WPARAM w, LPARAM l, LRESULT* resultado) override;
     void ErrorEnNotificacion(const ErrorEjecucion& error) noexcept override;
     void Sostener() override { AddRef(); }
@@ -263,6 +264,7 @@ class ObjetoControl : public IOleObject,
 
     Ptr<IOleClientSite> sitio_;
     Ptr<IOleControlSite> sitioDeControl_;
+    Ptr<ISimpleFrameSite> marcoSimple_; // of a control that holds others
     Ptr<IDispatch> ambiente_;
     int modoUsuario_ = -1; // -1 not asked yet
     long congelados_ = 0;

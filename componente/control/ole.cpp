@@ -22,9 +22,12 @@ HRESULT ObjetoControl::SetClientSite(IOleClientSite* sitio) {
             InPlaceDeactivate(); // some containers take the site away before they close
         sitioDeControl_.Soltar();
         ambiente_.Soltar();
+        marcoSimple_.Soltar();
         sitio_ = Ptr<IOleClientSite>(sitio);
         sitioDeControl_ = Ptr<IOleControlSite>::De(sitio);
         ambiente_ = Ptr<IDispatch>::De(sitio);
+        if (Datos().rasgosOle & OLEMISC_SIMPLEFRAME)
+            marcoSimple_ = Ptr<ISimpleFrameSite>::De(sitio);
         OlvidarAmbiente();
         return S_OK;
     });

@@ -63,16 +63,21 @@ void Componer(const Nucleo& nucleo, SuperficieWindows& superficie, const Destino
     nucleo.escena.Dibujar(destino);
 }
 
-void DibujarPadre(HWND ventana, HDC dc) {
-    const HWND padre = ::GetParent(ventana);
-    if (!padre)
+void DibujarPadre(Nucleo& nucleo, HDC dc) {
+    const HWND ventana = nucleo.ventana, padre = ::GetParent(ventana);
+    // A parent that prints its children too asks for this one again, which would never end.
+    if (!padre || nucleo.dibujandoPadre)
         return;
+    const auto testigo = nucleo.Testigo();
+    nucleo.dibujandoPadre = true;
     POINT origen{0, 0};
     ::MapWindowPoints(ventana, padre, &origen, 1);
     EstadoDc estado(dc);
     ::OffsetViewportOrgEx(dc, -origen.x, -origen.y, nullptr);
     ::SendMessageW(padre, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
     ::SendMessageW(padre, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
+    if (!testigo.expired())
+        nucleo.dibujandoPadre = false;
 }
 
 void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie) {
@@ -92,7 +97,7 @@ void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie) {
         if (fondo.dc())
             ::IntersectClipRect(fondo.dc(), sucio.left, sucio.top, sucio.right, sucio.bottom);
         if (superficie.Transparente())
-            DibujarPadre(ventana, destino.dc);
+            DibujarPadre(nucleo, destino.dc);
         if (!testigo.expired())
             Componer(nucleo, superficie, destino);
         if (fondo.dc())
@@ -110,8 +115,11 @@ void ImprimirVentana(Nucleo& nucleo, SuperficieWindows& superficie, HDC dc, LPAR
         EstadoDc estado(dc);
         const SIZE tamano = superficie.Tamano();
         ::IntersectClipRect(dc, 0, 0, tamano.cx, tamano.cy);
-        if (superficie.Transparente() && conHijas)
-            DibujarPadre(nucleo.ventana, dc);
+        const auto testigo = nucleo.Testigo();
+        if (superficie.Transparente())
+            DibujarPadre(nucleo, dc);
+        if (testigo.expired())
+            return;
         Componer(nucleo, superficie, destino);
     }
     if (!conHijas || !(banderas & PRF_CHILDREN))

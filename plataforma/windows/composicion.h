@@ -8,8 +8,8 @@ namespace pincela::windows {
 /// Draws everything; where a transparent surface shows nothing the context keeps what it has.
 void Componer(const Nucleo& nucleo, SuperficieWindows& superficie, const Destino& destino);
 
-/// Asks the window's parent to draw itself as it is behind the window.
-void DibujarPadre(HWND ventana, HDC dc);
+/// Asks the window's parent to draw itself as it is behind the window; it may end everything.
+void DibujarPadre(Nucleo& nucleo, HDC dc);
 
 /// Answers WM_PAINT: composes what needs painting off screen and copies it once.
 void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie);

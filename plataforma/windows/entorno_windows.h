@@ -10,6 +10,8 @@
 
 #include <windows.h>
 
+#include <ocidl.h>
+
 #include <memory>
 
 namespace pincela::windows {
@@ -34,6 +36,9 @@ class SitioControl {
     virtual void ControlesContenidos(const std::function<void(ControlContenido&)>& visita) = 0;
     /// True when the container wants input to do nothing (design mode).
     virtual bool EntradaCongelada() = 0;
+    /// Who sees every message of the window before and after it is handled, because it keeps
+    /// controls of its own in that window; null for nobody.
+    virtual ISimpleFrameSite* MarcoSimple() { return nullptr; }
     /// A message the window got while it is active; true when it was consumed and `*resultado` set.
     virtual bool Mensaje(HWND ventana, UINT mensaje, WPARAM w, LPARAM l, LRESULT* resultado) = 0;
     /// A run-time error left a handler that the platform called, so no caller can be told.

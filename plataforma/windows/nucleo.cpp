@@ -1,5 +1,9 @@
 #include "plataforma/windows/nucleo.h"
 
+#include "plataforma/windows/campo_edicion.h"
+
+#include <algorithm>
+
 namespace pincela::windows {
 
 void Nucleo::VistaCambiada() {
@@ -18,7 +22,10 @@ void Nucleo::VistaCambiada() {
 }
 
 bool Nucleo::EsVentanaPropia(HWND otra) const {
-    return otra && ventana && (otra == ventana || ::IsChild(ventana, otra));
+    return otra && ventana &&
+           (otra == ventana || std::any_of(campos.begin(), campos.end(), [otra](auto* campo) {
+                return campo->ventana() == otra;
+            }));
 }
 
 } // namespace pincela::windows

@@ -52,6 +52,7 @@ class Nucleo {
     std::vector<CampoEdicion*> campos; // in the order they were made
     Globos* globos = nullptr;          // of the window, for whoever gets mouse messages
     bool conFoco = false;              // what the site was last told
+    bool dibujandoPadre = false;       // the parent was asked for what is behind the window
 
     /// Expires with the environment.
     std::weak_ptr<const void> Testigo() const { return vida_; }
@@ -74,6 +75,7 @@ class Nucleo {
 
     void OlvidarAvisoDeVista() { avisada_ = false; }
 
+    /// The window or one of its edit fields; what a container places inside is not its own.
     bool EsVentanaPropia(HWND otra) const;
 
   private:

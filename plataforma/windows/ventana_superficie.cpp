@@ -2,6 +2,7 @@
 
 #include "plataforma/windows/campo_edicion.h"
 #include "plataforma/windows/composicion.h"
+#include "plataforma/windows/filtro_marco.h"
 #include "plataforma/windows/foco.h"
 #include "plataforma/windows/modulo.h"
 #include "plataforma/windows/puntero.h"
@@ -59,10 +60,12 @@ HWND VentanaSuperficie::Crear(HWND padre, const RECT& lugar) {
         Destruir();
     superficie_.PonTamano({lugar.right - lugar.left, lugar.bottom - lugar.top});
     const auto testigo = nucleo_.Testigo();
-    const HWND ventana =
-        ::CreateWindowExW(0, NombreDeClase, nullptr, WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN,
-                          lugar.left, lugar.top, lugar.right - lugar.left, lugar.bottom - lugar.top,
-                          padre, nullptr, ModuloPropio(), this);
+    // TAB goes through what is placed inside, also where the platform moves the focus.
+    const DWORD estiloEx = nucleo_.sitio.MarcoSimple() ? WS_EX_CONTROLPARENT : 0;
+    const HWND ventana = ::CreateWindowExW(
+        estiloEx, NombreDeClase, nullptr, WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, lugar.left,
+        lugar.top, lugar.right - lugar.left, lugar.bottom - lugar.top, padre, nullptr,
+        ModuloPropio(), this);
     if (!ventana || testigo.expired())
         return nullptr;
     const auto campos = nucleo_.campos;
@@ -109,11 +112,18 @@ LRESULT VentanaSuperficie::Recibir(HWND ventana, UINT mensaje, WPARAM w, LPARAM 
     const Sosten sosten(sitio);
     const auto testigo = nucleo_.Testigo();
     LRESULT resultado = 0;
+    FiltroDeMarco filtro(sitio.MarcoSimple(), ventana, mensaje, w, l);
+    if (filtro.Antes(resultado))
+        return resultado;
     bool terminado = false;
-    Proteger(sitio, [&] { terminado = sitio.Mensaje(ventana, mensaje, w, l, &resultado); });
+    if (!testigo.expired())
+        Proteger(sitio, [&] { terminado = sitio.Mensaje(ventana, mensaje, w, l, &resultado); });
     if (!terminado && !testigo.expired())
         Proteger(sitio, [&] { terminado = Procesar(mensaje, w, l, resultado); });
-    return terminado ? resultado : ::DefWindowProcW(ventana, mensaje, w, l);
+    if (!terminado)
+        resultado = ::DefWindowProcW(ventana, mensaje, w, l);
+    filtro.Despues(resultado);
+    return resultado;
 }
 
 bool VentanaSuperficie::Procesar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado) {
@@ -125,6 +135,10 @@ bool VentanaSuperficie::Procesar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resu
         resultado = 1; // painting covers everything
         return true;
     case WM_PAINT:
+        if (superficie_.Transparente())
+            vigia_.Vigilar(nucleo_.ventana);
+        else
+            vigia_.Soltar();
         PintarVentana(nucleo_, superficie_);
         nucleo_.Notificar([](ControlUsuario& control) { control.Paint(); });
         return true;
@@ -135,6 +149,10 @@ bool VentanaSuperficie::Procesar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resu
     case WM_SIZE:
         CambioDeTamano({LOWORD(l), HIWORD(l)});
         return true;
+    case WM_MOVE: // there is something else behind it now
+        if (superficie_.Transparente())
+            ::InvalidateRect(nucleo_.ventana, nullptr, FALSE);
+        return false;
     case WM_SETFOCUS:
         FocoRecibido();
         return true;
@@ -247,6 +265,7 @@ void VentanaSuperficie::Perdida() {
     for (CampoEdicion* campo : nucleo_.campos)
         campo->SoltarVentana();
     globos_.Soltar();
+    vigia_.Soltar();
     raton_.CapturaPerdida();
     nucleo_.ventana = nullptr;
     nucleo_.VistaDibujada();

@@ -4,6 +4,7 @@
 #include "plataforma/windows/globos.h"
 #include "plataforma/windows/raton.h"
 #include "plataforma/windows/superficie_windows.h"
+#include "plataforma/windows/vigia_padre.h"
 
 namespace pincela::windows {
 
@@ -41,6 +42,7 @@ class VentanaSuperficie {
     SuperficieWindows& superficie_;
     Raton raton_;
     Globos globos_;
+    VigiaDelPadre vigia_;
 };
 
 } // namespace pincela::windows

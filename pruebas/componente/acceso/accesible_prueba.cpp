@@ -1,7 +1,6 @@
 // What a screen reader finds at the button's window.
 #include "pruebas/componente/acceso/banco.h"
-
-#include <oleacc.h>
+#include "pruebas/componente/acceso/lector.h"
 
 #include <algorithm>
 #include <vector>
@@ -9,47 +8,6 @@
 using namespace acceso;
 
 namespace {
-
-const VARIANT Yo = [] {
-    VARIANT v{};
-    v.vt = VT_I4;
-    v.lVal = CHILDID_SELF;
-    return v;
-}();
-
-/// The platform's road from a window to its object, as assistive programs take it.
-Puntero<IAccessible> AccesibleDe(HWND ventana) {
-    static const HMODULE oleacc = LoadLibraryW(L"oleacc.dll");
-    using Pregunta = HRESULT(WINAPI*)(HWND, DWORD, REFIID, void**);
-    const auto pregunta = reinterpret_cast<Pregunta>(
-        reinterpret_cast<void*>(GetProcAddress(oleacc, "AccessibleObjectFromWindow")));
-    const bool hay = pregunta != nullptr;
-    REQUIRE(hay);
-    IAccessible* accesible = nullptr;
-    REQUIRE(pregunta(ventana, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
-                     reinterpret_cast<void**>(&accesible)) == S_OK);
-    Puntero<IAccessible> propio(accesible);
-    accesible->Release();
-    return propio;
-}
-
-std::wstring Tomar(BSTR texto) {
-    std::wstring copia = texto ? texto : L"";
-    SysFreeString(texto);
-    return copia;
-}
-
-std::wstring Nombre(IAccessible* a) {
-    BSTR texto = nullptr;
-    a->get_accName(Yo, &texto);
-    return Tomar(texto);
-}
-
-long Estado(IAccessible* a) {
-    VARIANT v{};
-    REQUIRE(a->get_accState(Yo, &v) == S_OK);
-    return v.lVal;
-}
 
 // Accessibility events, as they pass.
 std::vector<std::pair<DWORD, HWND>> vistos;

@@ -47,10 +47,11 @@ inline constexpr const wchar_t* PropiedadesDelBoton[] = {L"EfectoBoton",
                                                          L"CambioProgre",
                                                          L"CambioProgrePasos"};
 
-/// A button out of the component file, not yet initialised by anybody.
-struct Boton {
-    Boton() : componente(anfitrion::Componente::DeFichero(RutaDelComponente())) {
-        objeto = Crear(componente, L"Botonazo");
+/// A control out of the component file, not yet initialised by anybody.
+struct Objeto {
+    explicit Objeto(std::wstring_view clase)
+        : componente(anfitrion::Componente::DeFichero(RutaDelComponente())) {
+        objeto = Crear(componente, clase);
         despacho = objeto.Como<IDispatch>();
     }
 
@@ -64,6 +65,10 @@ struct Boton {
     anfitrion::Componente componente;
     Puntero<IUnknown> objeto;
     Puntero<IDispatch> despacho;
+};
+
+struct Boton : Objeto {
+    Boton() : Objeto(L"Botonazo") {}
 };
 
 /// A font by its attributes, a picture by its kind and size in hundredths of a millimetre, anything

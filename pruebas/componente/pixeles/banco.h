@@ -2,9 +2,9 @@
 #pragma once
 
 #include "anfitrion/bolsa_memoria.h"
-#include "anfitrion/captura.h"
 #include "anfitrion/formulario.h"
 #include "pruebas/componente/comun/boton.h"
+#include "pruebas/componente/pixeles/caja.h"
 
 #include <doctest/doctest.h>
 
@@ -12,8 +12,6 @@
 #include <memory>
 
 namespace publicado {
-
-using anfitrion::Captura;
 
 inline constexpr COLORREF Rojo = RGB(220, 20, 30), Verde = RGB(10, 180, 40),
                           Azul = RGB(20, 30, 210), FondoDeForma = RGB(250, 240, 10);
@@ -68,19 +66,5 @@ struct BancoDePixeles {
     std::unique_ptr<anfitrion::Formulario> forma;
     std::shared_ptr<anfitrion::ControlAlojado> control;
 };
-
-/// Smallest rectangle with every pixel of the colour; empty when there is none.
-inline RECT Caja(const Captura& c, COLORREF color) {
-    RECT r{c.Ancho(), c.Alto(), 0, 0};
-    for (int y = 0; y < c.Alto(); ++y)
-        for (int x = 0; x < c.Ancho(); ++x)
-            if (c.Pixel(x, y) == color) {
-                r.left = x < r.left ? x : r.left;
-                r.top = y < r.top ? y : r.top;
-                r.right = x >= r.right ? x + 1 : r.right;
-                r.bottom = y >= r.bottom ? y + 1 : r.bottom;
-            }
-    return r.left < r.right ? r : RECT{};
-}
 
 } // namespace publicado

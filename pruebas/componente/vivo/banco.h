@@ -70,12 +70,14 @@ inline void Tecla(WORD tecla, bool abajo) {
     SendInput(1, &entrada, sizeof entrada);
 }
 
-/// A form of 300 x 200 pixels with one button of 120 x 40 at (40, 40).
+/// A form of 300 x 200 pixels with one button of 120 x 40 at (40, 40), or another control in its
+/// stead.
 class Banco {
   public:
     static constexpr RECT Lugar{40, 40, 160, 80};
 
-    explicit Banco(OpcionesFormulario opciones = {}) {
+    explicit Banco(OpcionesFormulario opciones = {}, const wchar_t* clase = L"Pincela.Botonazo",
+                   const RECT& lugar = Lugar) {
         AbrirOle();
         componente = Componente::DeFichero(RutaComponente());
         registro = std::make_shared<Registro>();
@@ -85,7 +87,7 @@ class Banco {
         forma = std::make_unique<Formulario>(opciones);
         SetCursorPos(1200, 1000);
         SetForegroundWindow(forma->Ventana());
-        boton = Agregar(L"Boton", Lugar);
+        boton = Agregar(L"Boton", lugar, clase);
         sumidero = boton->Conectar([this](Evento& evento) { Anotar(evento); });
         forma->BombearMensajes();
         Olvidar();
@@ -94,8 +96,9 @@ class Banco {
     Banco& operator=(const Banco&) = delete;
 
     std::shared_ptr<ControlAlojado> Agregar(const std::wstring& nombre, const RECT& lugar,
-                                            const wchar_t* clase = L"Pincela.Botonazo") {
-        return forma->Agregar(componente, componente.Clase(clase), nombre, lugar);
+                                            const wchar_t* clase = L"Pincela.Botonazo",
+                                            ControlAlojado* dentro = nullptr) {
+        return forma->Agregar(componente, componente.Clase(clase), nombre, lugar, {}, dentro);
     }
 
     /// A text box of the application's own at the bottom of the form, in the tab order.

@@ -1,0 +1,30 @@
+// Properties of other people's objects, read as a script reads them.
+#pragma once
+
+#include "componente/com.h"
+
+namespace pincela::componente {
+
+/// The value of a property, converted to `tipo`. False when it can't be read or converted, or is
+/// empty; `*valor` is then left as it was. The object is held meanwhile.
+inline bool LeerTardio(Ptr<IDispatch> objeto, DISPID dispid, VARTYPE tipo, VARIANT* valor) {
+    VarianteCom leido;
+    DISPPARAMS ninguno{};
+    const HRESULT estado =
+        objeto->Invoke(dispid, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &ninguno,
+                       leido.Recibir(), nullptr, nullptr);
+    if (FAILED(estado) || V_VT(&leido) == VT_EMPTY)
+        return false;
+    return SUCCEEDED(VariantChangeType(valor, &leido, 0, tipo));
+}
+
+/// The same by name.
+inline bool LeerTardio(const Ptr<IDispatch>& objeto, const wchar_t* nombre, VARTYPE tipo,
+                       VARIANT* valor) {
+    LPOLESTR copia = const_cast<LPOLESTR>(nombre);
+    DISPID dispid = DISPID_UNKNOWN;
+    return SUCCEEDED(objeto->GetIDsOfNames(IID_NULL, &copia, 1, LOCALE_USER_DEFAULT, &dispid)) &&
+           LeerTardio(objeto, dispid, tipo, valor);
+}
+
+} // namespace pincela::componente
