@@ -31,6 +31,8 @@ ProPColores::ProPColores(EntornoPagina& entorno)
         });
         entorno.Boton(u"cbInvOrden" + sufijo).Click.Conectar([&estado] { estado.InvertirOrden(); });
     }
+    // Both frames have the same place.
+    Frame1[1]->PonVisible(false);
     entorno.Boton(u"cbIgual").Click.Conectar([this] { Igualar(); });
     txtAngulo.Change.Conectar([this] { CambiarAngulo(); });
     txtAngulo.KeyPress.Conectar(

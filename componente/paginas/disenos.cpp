@@ -120,7 +120,7 @@ struct PiezasColores {
 };
 
 constexpr PiezasColores ComponerColores() {
-    constexpr short y = 23, alto = 128;
+    constexpr short y = 26, alto = 128;
     PiezasColores c{};
     std::size_t i = 0;
     c.piezas[i++] = {Opcion, u"OptNorSob(0)", 7, 8, 50, 12, L"&Normal"};
@@ -181,7 +181,7 @@ constexpr PiezasColoresArea PiezasDeColoresArea = ComponerColoresArea();
 } // namespace
 
 const windows::DisenoPagina DisenoGeneral{L"General", Ancho, 179, PiezasGeneral};
-const windows::DisenoPagina DisenoColores{L"Colores", Ancho, 158, PiezasDeColores.piezas};
+const windows::DisenoPagina DisenoColores{L"Colores", Ancho, 161, PiezasDeColores.piezas};
 const windows::DisenoPagina DisenoColoresArea{L"Colores", Ancho, 210, PiezasDeColoresArea.piezas};
 
 const windows::DisenoPagina* DisenoDe(REFGUID pagina) {

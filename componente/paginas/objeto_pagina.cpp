@@ -205,6 +205,10 @@ HRESULT ObjetoPagina::Show(UINT modo) {
         return E_UNEXPECTED;
     if (modo != SW_SHOW && modo != SW_SHOWNORMAL && modo != SW_HIDE)
         return E_INVALIDARG;
+    // A frame makes its tabs before its pages, and a later child would lie under them.
+    if (modo != SW_HIDE)
+        SetWindowPos(ventana_.Ventana(), HWND_TOP, 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ShowWindow(ventana_.Ventana(), static_cast<int>(modo));
     return S_OK;
 }

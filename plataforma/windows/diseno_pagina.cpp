@@ -42,9 +42,9 @@ Ventana VentanaDe(ClasePieza clase) {
     case ClasePieza::FilaDeTopes:
         return {L"BUTTON", BS_GROUPBOX};
     case ClasePieza::Cuadro:
-        return {L"STATIC", SS_OWNERDRAW | SS_SUNKEN};
+        return {ClaseDeCuadro, 0, WS_EX_STATICEDGE};
     case ClasePieza::CuadroLibre:
-        return {L"STATIC", SS_OWNERDRAW};
+        return {ClaseDeCuadro, 0};
     }
     return {L"STATIC", 0};
 }

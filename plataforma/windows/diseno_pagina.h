@@ -50,6 +50,9 @@ constexpr std::int32_t TwipsDe(int unidades) {
     return unidades * 45 / 2;
 }
 
+/// Window class of the picture boxes. It asks its dialog to paint, as owner-drawn widgets do.
+inline constexpr wchar_t ClaseDeCuadro[] = L"PincelaCuadro";
+
 /// Window of the first piece; the others count on from it.
 inline constexpr WORD PrimeraPieza = 1000;
 

@@ -1,6 +1,7 @@
 #include "plataforma/windows/pagina_windows.h"
 
 #include "plataforma/windows/accesibilidad.h"
+#include "plataforma/windows/clase_de_ventana.h"
 #include "plataforma/windows/colores.h"
 #include "plataforma/windows/entorno_windows.h"
 #include "plataforma/windows/modulo.h"
@@ -18,6 +19,33 @@ namespace pincela::windows {
 namespace {
 
 constexpr wchar_t TituloDeMensajes[] = L"Pincela";
+
+// The platform's own static windows paint on the context of their parent, where a shape of their
+// own does not clip.
+LRESULT CALLBACK ProcesarCuadro(HWND ventana, UINT mensaje, WPARAM w, LPARAM l) {
+    switch (mensaje) {
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_PRINTCLIENT:
+    case WM_PAINT: {
+        PAINTSTRUCT pintura{};
+        DRAWITEMSTRUCT dibujo{};
+        dibujo.CtlType = ODT_STATIC;
+        dibujo.CtlID = static_cast<UINT>(::GetDlgCtrlID(ventana));
+        dibujo.hwndItem = ventana;
+        dibujo.hDC =
+            mensaje == WM_PAINT ? ::BeginPaint(ventana, &pintura) : reinterpret_cast<HDC>(w);
+        ::GetClientRect(ventana, &dibujo.rcItem);
+        ::SendMessageW(::GetParent(ventana), WM_DRAWITEM, dibujo.CtlID,
+                       reinterpret_cast<LPARAM>(&dibujo));
+        if (mensaje == WM_PAINT)
+            ::EndPaint(ventana, &pintura);
+        return 0;
+    }
+    default:
+        return ::DefWindowProcW(ventana, mensaje, w, l);
+    }
+}
 
 const wchar_t* Ancho(const Texto& texto) {
     return reinterpret_cast<const wchar_t*>(texto.c_str());
@@ -134,6 +162,7 @@ void PaginaWindows::PonChanged(bool valor) {
 }
 
 HWND PaginaWindows::CrearVentana(HWND padre) {
+    static const ClaseDeVentana cuadros(ClaseDeCuadro, 0, &ProcesarCuadro);
     const std::vector<WORD> plantilla = PlantillaDe(diseno_);
     ventana_ = ::CreateDialogIndirectParamW(ModuloPropio(),
                                             reinterpret_cast<const DLGTEMPLATE*>(plantilla.data()),
