@@ -1,6 +1,7 @@
 // The pages in the container's property frame, with the user's own mouse and keyboard.
 #include "anfitrion/formulario.h"
 #include "anfitrion/marco_propiedades.h"
+#include "pruebas/componente/comun/modulo.h"
 #include "pruebas/componente/vivo/banco.h"
 
 #include <commctrl.h>
@@ -134,8 +135,9 @@ TEST_CASE("the tab key walks through the page and on to the buttons of the frame
     CHECK(puesto(m.Tras(L"Tipo Letra")) == 7);
     CHECK(puesto(m.La(L"Habilitado")) == 8);
     CHECK(puesto(m.La(L"Foco Con Mouse")) == 13);
-    CHECK(puesto(m.DelMarco(L"Aceptar")) == 14);
-    CHECK(puesto(m.DelMarco(L"Cancelar")) == 15);
+    // Then the tabs themselves, and the buttons below them.
+    CHECK(puesto(m.DelMarco(L"Aceptar")) == 15);
+    CHECK(puesto(m.DelMarco(L"Cancelar")) == 16);
 }
 
 TEST_CASE("a mnemonic leads to the field behind its label") {
@@ -170,6 +172,8 @@ TEST_CASE("a gradient made on the colour page is seen on the button") {
     SetFocus(m.Tras(L"EstiloRelleno:"));
     m.Pulsar(VK_DOWN);
     m.Clic(m.La(L"Invertir Orden"));
+    // A new fill is drawn with the colours of the other state.
+    m.Clic(m.La(L"Igualar"));
     m.Clic(m.DelMarco(L"Aplicar"));
     CHECK(m.Leer(L"EstilosRell") == "1");
     m.marco.reset();
@@ -191,6 +195,16 @@ TEST_CASE("a click on the other state shows its frame") {
 
 TEST_CASE("the verb of the control opens the platform's frame with its pages") {
     Banco b;
+    // The platform's frame creates pages by their class, registered or not.
+    const publicado::Modulo modulo;
+    std::vector<DWORD> registros;
+    for (const wchar_t* nombre : {L"ProPGeneral", L"ProPColores"}) {
+        const CLSID clase = publicado::Guid(publicado::ClaseDe(nombre).clase);
+        Puntero<IClassFactory> fabrica;
+        REQUIRE(modulo.DarClase(clase, IID_IClassFactory, fabrica.RecibirVoid()) == S_OK);
+        REQUIRE(CoRegisterClassObject(clase, fabrica.get(), CLSCTX_INPROC_SERVER,
+                                      REGCLS_MULTIPLEUSE, &registros.emplace_back()) == S_OK);
+    }
     std::vector<std::wstring> vistas;
     static std::vector<std::wstring>* anotar;
     anotar = &vistas;
@@ -221,5 +235,7 @@ TEST_CASE("the verb of the control opens the platform's frame with its pages") {
     CHECK(ole->DoVerb(OLEIVERB_PROPERTIES, nullptr, sitio.get(), 0, b.forma->Ventana(), &lugar) ==
           S_OK);
     KillTimer(nullptr, reloj);
+    for (const DWORD registro : registros)
+        CoRevokeClassObject(registro);
     CHECK(std::find(vistas.begin(), vistas.end(), L"Estilo Boton") != vistas.end());
 }
