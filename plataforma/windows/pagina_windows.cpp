@@ -1,6 +1,5 @@
 #include "plataforma/windows/pagina_windows.h"
 
-#include "plataforma/windows/accesibilidad.h"
 #include "plataforma/windows/clase_de_ventana.h"
 #include "plataforma/windows/colores.h"
 #include "plataforma/windows/entorno_windows.h"

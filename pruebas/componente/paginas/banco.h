@@ -105,15 +105,15 @@ class Ventana {
 /// Answers the message boxes and dialogs that open while it lives.
 class Contestador {
   public:
-    /// `contestar` is given each new dialog of another owner than `marco`.
+    /// `contestar` is given whatever dialog stands open, again and again until it is gone.
     explicit Contestador(std::function<void(HWND)> contestar) {
         contestar_ = std::move(contestar);
-        hook_ = SetTimer(nullptr, 0, 20, &Contestador::AlTic);
+        reloj_ = SetTimer(nullptr, 0, 20, &Contestador::AlTic);
     }
     Contestador(const Contestador&) = delete;
     Contestador& operator=(const Contestador&) = delete;
     ~Contestador() {
-        KillTimer(nullptr, hook_);
+        KillTimer(nullptr, reloj_);
         contestar_ = nullptr;
     }
 
@@ -126,22 +126,21 @@ class Contestador {
     }
 
   private:
+    static BOOL CALLBACK AlVer(HWND una, LPARAM dialogo) {
+        if (ClaseDeVentana(una) == L"#32770" && IsWindowVisible(una))
+            *reinterpret_cast<HWND*>(dialogo) = una;
+        return TRUE;
+    }
     static void CALLBACK AlTic(HWND, UINT, UINT_PTR, DWORD) {
         HWND dialogo = nullptr;
-        EnumThreadWindows(
-            GetCurrentThreadId(),
-            [](HWND una, LPARAM l) -> BOOL {
-                if (ClaseDeVentana(una) == L"#32770" && IsWindowVisible(una))
-                    *reinterpret_cast<HWND*>(l) = una;
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&dialogo));
+        EnumThreadWindows(GetCurrentThreadId(), &Contestador::AlVer,
+                          reinterpret_cast<LPARAM>(&dialogo));
         if (dialogo && contestar_)
             contestar_(dialogo);
     }
 
     static inline std::function<void(HWND)> contestar_;
-    UINT_PTR hook_;
+    UINT_PTR reloj_;
 };
 
 /// A page without objects yet.

@@ -6,7 +6,8 @@
 
 #include <commctrl.h>
 
-#include <cstring>
+#include <algorithm>
+#include <cwchar>
 
 using namespace vivo;
 
@@ -193,6 +194,28 @@ TEST_CASE("a click on the other state shows its frame") {
     CHECK(m.Tras(L"Color de letra:") != normal);
 }
 
+// Texts of the windows inside the platform's frame.
+static std::vector<std::wstring> vistas;
+
+static BOOL CALLBACK AnotarHija(HWND hija, LPARAM) {
+    vistas.push_back(Leido(hija));
+    return TRUE;
+}
+
+static BOOL CALLBACK CancelarMarco(HWND una, LPARAM) {
+    wchar_t clase[50];
+    GetClassNameW(una, clase, 50);
+    if (std::wcscmp(clase, L"#32770") != 0 || !IsWindowVisible(una))
+        return TRUE;
+    EnumChildWindows(una, &AnotarHija, 0);
+    PostMessageW(una, WM_COMMAND, IDCANCEL, 0);
+    return FALSE;
+}
+
+static void CALLBACK MirarYCancelar(HWND, UINT, UINT_PTR, DWORD) {
+    EnumThreadWindows(GetCurrentThreadId(), &CancelarMarco, 0);
+}
+
 TEST_CASE("the verb of the control opens the platform's frame with its pages") {
     Banco b;
     // The platform's frame creates pages by their class, registered or not.
@@ -205,29 +228,8 @@ TEST_CASE("the verb of the control opens the platform's frame with its pages") {
         REQUIRE(CoRegisterClassObject(clase, fabrica.get(), CLSCTX_INPROC_SERVER,
                                       REGCLS_MULTIPLEUSE, &registros.emplace_back()) == S_OK);
     }
-    std::vector<std::wstring> vistas;
-    static std::vector<std::wstring>* anotar;
-    anotar = &vistas;
-    const UINT_PTR reloj = SetTimer(nullptr, 0, 300, [](HWND, UINT, UINT_PTR, DWORD) CALLBACK {
-        EnumThreadWindows(
-            GetCurrentThreadId(),
-            [](HWND una, LPARAM) CALLBACK -> BOOL {
-                wchar_t clase[50];
-                GetClassNameW(una, clase, 50);
-                if (std::wcscmp(clase, L"#32770") != 0 || !IsWindowVisible(una))
-                    return TRUE;
-                EnumChildWindows(
-                    una,
-                    [](HWND hija, LPARAM) CALLBACK -> BOOL {
-                        anotar->push_back(Leido(hija));
-                        return TRUE;
-                    },
-                    0);
-                PostMessageW(una, WM_COMMAND, IDCANCEL, 0);
-                return FALSE;
-            },
-            0);
-    });
+    vistas.clear();
+    const UINT_PTR reloj = SetTimer(nullptr, 0, 300, &MirarYCancelar);
     const auto ole = Puntero<IUnknown>(b.boton->Despacho()).Como<IOleObject>();
     Puntero<IOleClientSite> sitio;
     REQUIRE(ole->GetClientSite(sitio.Recibir()) == S_OK);

@@ -1,5 +1,4 @@
 // Pictures of every page, to be looked at. Arguments: the folder, and a text for the names.
-#include "anfitrion/formulario.h"
 #include "anfitrion/marco_propiedades.h"
 #include "pruebas/componente/paginas/banco.h"
 
