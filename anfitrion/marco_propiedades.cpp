@@ -11,6 +11,14 @@ namespace anfitrion {
 static constexpr wchar_t ClaseMarco[] = L"AnfitrionMarcoPropiedades";
 static constexpr int IdAplicar = 100;
 
+/// Pixels of a length that is told for 96 dots per inch.
+static int Escalado(int pixeles) {
+    const HDC pantalla = GetDC(nullptr);
+    const int ppp = GetDeviceCaps(pantalla, LOGPIXELSX);
+    ReleaseDC(nullptr, pantalla);
+    return MulDiv(pixeles, ppp, 96);
+}
+
 /// What a page may ask of its frame.
 class SitioPagina : public ObjetoCom<IPropertyPageSite> {
   public:
@@ -119,7 +127,7 @@ void MarcoPropiedades::CargarPaginas(const Componente& componente, const std::ve
 HWND MarcoPropiedades::CrearBoton(const wchar_t* texto, int id, int x, int y, bool normal) {
     const HWND boton = CreateWindowW(
         L"BUTTON", texto, WS_CHILD | WS_VISIBLE | WS_TABSTOP | (normal ? BS_DEFPUSHBUTTON : 0u), x,
-        y, 75, 23, ventana_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+        y, Escalado(75), Escalado(23), ventana_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
         GetModuleHandleW(nullptr), nullptr);
     SendMessageW(boton, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)),
                  FALSE);
@@ -158,7 +166,7 @@ void MarcoPropiedades::CrearVentana(HWND padre, const std::wstring& titulo) {
         medida.cx = std::max(medida.cx, paginas_[i].medida.cx);
         medida.cy = std::max(medida.cy, paginas_[i].medida.cy);
     }
-    constexpr int Borde = 7;
+    const int Borde = Escalado(7), ancho = Escalado(75), alto = Escalado(23);
     RECT ficha{0, 0, medida.cx, medida.cy};
     SendMessageW(pestanas_, TCM_ADJUSTRECT, TRUE, reinterpret_cast<LPARAM>(&ficha));
     OffsetRect(&ficha, Borde - ficha.left, Borde - ficha.top);
@@ -168,10 +176,10 @@ void MarcoPropiedades::CrearVentana(HWND padre, const std::wstring& titulo) {
     SendMessageW(pestanas_, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&interior_));
 
     const int y = ficha.bottom + Borde;
-    CrearBoton(L"Aceptar", IDOK, ficha.right - 75 * 3 - Borde * 2, y, true);
-    CrearBoton(L"Cancelar", IDCANCEL, ficha.right - 75 * 2 - Borde, y, false);
-    aplicar_ = CrearBoton(L"A&plicar", IdAplicar, ficha.right - 75, y, false);
-    RECT r{0, 0, ficha.right + Borde, y + 23 + Borde};
+    CrearBoton(L"Aceptar", IDOK, ficha.right - ancho * 3 - Borde * 2, y, true);
+    CrearBoton(L"Cancelar", IDCANCEL, ficha.right - ancho * 2 - Borde, y, false);
+    aplicar_ = CrearBoton(L"A&plicar", IdAplicar, ficha.right - ancho, y, false);
+    RECT r{0, 0, ficha.right + Borde, y + alto + Borde};
     AdjustWindowRectEx(&r, estilo, FALSE, estiloEx);
     RECT donde{};
     if (padre)

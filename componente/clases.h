@@ -72,13 +72,15 @@ inline constexpr DatosClase DatosProPColores = {.nombre = L"ProPColores",
                                                 .interfaz =
                                                     "{47644BA4-D5B0-4400-88FD-EA26DE35D27B}"_guid,
                                                 .eventos = {},
-                                                .genero = Genero::Pagina};
+                                                .genero = Genero::Pagina,
+                                                .disponible = true};
 inline constexpr DatosClase DatosProPGeneral = {.nombre = L"ProPGeneral",
                                                 .clase = detalle::PaginaGeneral,
                                                 .interfaz =
                                                     "{7B8005EF-A3D8-4CEE-9E6A-22E388E21B85}"_guid,
                                                 .eventos = {},
-                                                .genero = Genero::Pagina};
+                                                .genero = Genero::Pagina,
+                                                .disponible = true};
 inline constexpr DatosClase DatosTBoxML = {.nombre = L"TBoxML",
                                            .clase = "{6792BA99-ABA4-4CE8-BF28-75F23C455855}"_guid,
                                            .interfaz =
@@ -144,7 +146,8 @@ inline constexpr DatosClase DatosProPColoresArea = {
     .clase = detalle::PaginaColoresArea,
     .interfaz = "{F141DBED-2568-4477-B574-B2E5F3B0AF12}"_guid,
     .eventos = {},
-    .genero = Genero::Pagina};
+    .genero = Genero::Pagina,
+    .disponible = true};
 
 /// Calls `f.template operator()<Tabla>(datos)` for each class in type-library order.
 template <class F>

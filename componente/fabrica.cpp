@@ -2,6 +2,7 @@
 
 #include "componente/control/control.h"
 #include "componente/objeto_efectos.h"
+#include "componente/paginas/objeto_pagina.h"
 
 #include <new>
 
@@ -22,6 +23,15 @@ Creador CreadorDe(REFCLSID clase) {
         return &CrearControl<TablaBotonazo, DatosBotonazo>;
     if (clase == DatosArea.clase)
         return &CrearControl<TablaArea, DatosArea>;
+    if (clase == DatosProPGeneral.clase)
+        return &CrearPagina<TablaProPGeneral, DatosProPGeneral, TablaBotonazo, DatosBotonazo,
+                            DisenoGeneral>;
+    if (clase == DatosProPColores.clase)
+        return &CrearPagina<TablaProPColores, DatosProPColores, TablaBotonazo, DatosBotonazo,
+                            DisenoColores>;
+    if (clase == DatosProPColoresArea.clase)
+        return &CrearPagina<TablaProPColoresArea, DatosProPColoresArea, TablaArea, DatosArea,
+                            DisenoColoresArea>;
     return nullptr;
 }
 

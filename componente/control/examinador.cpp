@@ -1,5 +1,6 @@
 // What property browsers ask: pages, groups, names of values.
 #include "componente/control/objeto_control.h"
+#include "componente/paginas/disenos.h"
 
 #include <algorithm>
 
@@ -24,6 +25,20 @@ constexpr NombreDeCategoria Categorias[] = {
 bool EsEnumeracion(const MiembroTardio* miembro) {
     return miembro && (miembro->admite & DISPATCH_PROPERTYGET) &&
            miembro->tipo.familia == Familia::Enumeracion;
+}
+
+/// Whether a page of the platform edits properties of that kind.
+bool EsPaginaDe(const GUID& pagina, Familia familia) {
+    switch (familia) {
+    case Familia::ObjetoFuente:
+        return pagina == detalle::PaginaDeFuente;
+    case Familia::ObjetoImagen:
+        return pagina == detalle::PaginaDeImagen;
+    case Familia::ColorOle:
+        return pagina == detalle::PaginaDeColor;
+    default:
+        return false;
+    }
 }
 
 } // namespace
@@ -110,18 +125,14 @@ HRESULT ObjetoControl::MapPropertyToPage(DISPID dispid, CLSID* pagina) {
     const auto paginas = Datos().paginas;
     if (!miembro || !(miembro->admite & DISPATCH_PROPERTYGET) || paginas.empty())
         return PERPROP_E_NOPAGEAVAILABLE;
-    auto tiene = [&](const GUID& una) {
-        return std::find(paginas.begin(), paginas.end(), una) != paginas.end();
-    };
-    const GUID* mejor = &paginas[0];
-    if (miembro->tipo.familia == Familia::ObjetoFuente)
-        mejor = &detalle::PaginaDeFuente;
-    else if (miembro->tipo.familia == Familia::ObjetoImagen)
-        mejor = &detalle::PaginaDeImagen;
-    else if (miembro->tipo.familia == Familia::ColorOle)
-        mejor = tiene(detalle::PaginaColores) ? &detalle::PaginaColores : &detalle::PaginaDeColor;
-    *pagina = tiene(*mejor) ? *mejor : paginas[0];
-    return S_OK;
+    for (const GUID& una : paginas) {
+        const windows::DisenoPagina* diseno = DisenoDe(una);
+        if (diseno ? Edita(*diseno, miembro->nombre) : EsPaginaDe(una, miembro->tipo.familia)) {
+            *pagina = una;
+            return S_OK;
+        }
+    }
+    return PERPROP_E_NOPAGEAVAILABLE;
 }
 
 HRESULT ObjetoControl::GetPredefinedStrings(DISPID dispid, CALPOLESTR* textos, CADWORD* galletas) {

@@ -1,5 +1,6 @@
 // Birth, identity and death of a control.
 #include "componente/control/objeto_control.h"
+#include "plataforma/windows/modulo.h"
 
 namespace pincela::componente {
 
@@ -79,6 +80,7 @@ HRESULT ObjetoControl::QueryInterface(REFIID iid, void** salida) {
         {IID_IPerPropertyBrowsing, static_cast<IPerPropertyBrowsing*>(this)},
         {IID_IQuickActivate, static_cast<IQuickActivate*>(this)},
         {IID_IDataObject, static_cast<IDataObject*>(this)},
+        {IidControlInterno, static_cast<IControlInterno*>(this)},
     };
     for (const auto& uno : lista) {
         if (iid == uno.iid) {
@@ -109,6 +111,19 @@ HRESULT ObjetoControl::GetGUID(DWORD cual, GUID* guid) {
 
 HRESULT ObjetoControl::InterfaceSupportsErrorInfo(REFIID iid) {
     return iid == Datos().interfaz || iid == IID_IDispatch ? S_OK : S_FALSE;
+}
+
+HRESULT ObjetoControl::DarNucleo(HMODULE modulo, ControlUsuario** nucleo) {
+    if (!nucleo)
+        return E_POINTER;
+    *nucleo = nullptr;
+    if (modulo != windows::ModuloPropio() || cerrando_)
+        return E_ACCESSDENIED;
+    return Guardar([&] {
+        Preparar();
+        *nucleo = Nucleo();
+        return S_OK;
+    });
 }
 
 } // namespace pincela::componente

@@ -7,6 +7,7 @@
 
 #include "componente/control/accesible.h"
 #include "componente/control/categorias.h"
+#include "componente/control/control_interno.h"
 #include "componente/control/sumideros.h"
 #include "componente/despacho.h"
 #include "componente/objeto.h"
@@ -39,6 +40,7 @@ class ObjetoControl : public IOleObject,
                       public IPerPropertyBrowsing,
                       public IQuickActivate,
                       public IDataObject,
+                      public IControlInterno,
                       public windows::SitioControl {
   public:
     ObjetoControl(const ObjetoControl&) = delete;
@@ -167,6 +169,9 @@ class ObjetoControl : public IOleObject,
                                       DWORD* galleta) override;
     HRESULT STDMETHODCALLTYPE DUnadvise(DWORD galleta) override;
     HRESULT STDMETHODCALLTYPE EnumDAdvise(IEnumSTATDATA** lista) override;
+
+    // IControlInterno
+    HRESULT STDMETHODCALLTYPE DarNucleo(HMODULE modulo, ControlUsuario** nucleo) override;
 
   protected:
     explicit ObjetoControl(const ClasePublicada& clase);

@@ -1,6 +1,7 @@
 #include "plataforma/windows/ventana_superficie.h"
 
 #include "plataforma/windows/campo_edicion.h"
+#include "plataforma/windows/clase_de_ventana.h"
 #include "plataforma/windows/composicion.h"
 #include "plataforma/windows/filtro_marco.h"
 #include "plataforma/windows/foco.h"
@@ -13,30 +14,6 @@ namespace pincela::windows {
 namespace {
 
 constexpr wchar_t NombreDeClase[] = L"PincelaSuperficie";
-
-// Registered with the first window, withdrawn when the module is unloaded.
-class ClaseDeVentana {
-  public:
-    explicit ClaseDeVentana(WNDPROC procedimiento) {
-        WNDCLASSEXW clase{};
-        clase.cbSize = sizeof clase;
-        clase.style = CS_DBLCLKS;
-        clase.lpfnWndProc = procedimiento;
-        clase.hInstance = ModuloPropio();
-        clase.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-        clase.lpszClassName = NombreDeClase;
-        registrada_ = ::RegisterClassExW(&clase) != 0;
-    }
-    ClaseDeVentana(const ClaseDeVentana&) = delete;
-    ClaseDeVentana& operator=(const ClaseDeVentana&) = delete;
-    ~ClaseDeVentana() {
-        if (registrada_)
-            ::UnregisterClassW(NombreDeClase, ModuloPropio());
-    }
-
-  private:
-    bool registrada_;
-};
 
 bool EsDeEntrada(UINT mensaje) {
     return (mensaje >= WM_MOUSEFIRST && mensaje <= WM_MBUTTONDBLCLK) ||
@@ -55,7 +32,7 @@ LRESULT CodigoDeDialogo(LPARAM l) {
 } // namespace
 
 HWND VentanaSuperficie::Crear(HWND padre, const RECT& lugar) {
-    static const ClaseDeVentana clase(&VentanaSuperficie::Procedimiento);
+    static const ClaseDeVentana clase(NombreDeClase, CS_DBLCLKS, &VentanaSuperficie::Procedimiento);
     if (nucleo_.ventana)
         Destruir();
     superficie_.PonTamano({lugar.right - lugar.left, lugar.bottom - lugar.top});

@@ -1,5 +1,6 @@
 #include "common/conversion.h"
 #include "comprobar_error.h"
+#include "con_regional.h"
 #include "pruebas/cada.h"
 
 #include <cfloat>
@@ -9,16 +10,6 @@ using namespace pincela;
 using namespace pincela::pruebas;
 
 namespace {
-
-/// Separators in force while it lives.
-struct ConRegional {
-    explicit ConRegional(Regional regional) { PonRegional(regional); }
-    ConRegional(const ConRegional&) = delete;
-    ConRegional& operator=(const ConRegional&) = delete;
-    ~ConRegional() { PonRegional(antes); }
-
-    Regional antes = RegionalActual();
-};
 
 constexpr Regional kEspaniol{u',', u'.'};
 

@@ -1,0 +1,339 @@
+// The colour pages in a frame that does nothing but what is asked.
+#include "pruebas/componente/paginas/banco.h"
+
+#include <commdlg.h>
+
+using namespace paginas;
+
+namespace {
+
+/// Colour buttons of the row that is shown, in order.
+std::vector<HWND> TopesDe(HWND dialogo) {
+    std::vector<HWND> topes;
+    for (const HWND una : Hijas(dialogo))
+        if (SeVe(una) && ClaseDeVentana(una) == L"Button" && GetDlgCtrlID(una) >= 0x2000)
+            topes.push_back(una);
+    return topes;
+}
+
+HWND VistaDe(HWND dialogo) {
+    for (const HWND una : Hijas(dialogo))
+        if (SeVe(una) && ClaseDeVentana(una) == L"PincelaCuadro")
+            return una;
+    return nullptr;
+}
+
+/// Pixels of a widget as its dialog paints it.
+anfitrion::Captura Imagen(HWND ventana) {
+    RECT r{};
+    GetClientRect(ventana, &r);
+    return anfitrion::Captura::DeDibujo(r.right, r.bottom, [&](HDC dc) {
+        DRAWITEMSTRUCT dibujo{};
+        dibujo.CtlType = ODT_BUTTON;
+        dibujo.CtlID = static_cast<UINT>(GetDlgCtrlID(ventana));
+        dibujo.hwndItem = ventana;
+        dibujo.hDC = dc;
+        dibujo.rcItem = r;
+        SendMessageW(GetParent(ventana), WM_DRAWITEM, dibujo.CtlID,
+                     reinterpret_cast<LPARAM>(&dibujo));
+    });
+}
+COLORREF ColorDe(HWND ventana) {
+    const auto imagen = Imagen(ventana);
+    return imagen.Pixel(imagen.Ancho() / 2, imagen.Alto() / 2);
+}
+
+struct Colores : BancoPagina {
+    Colores() : BancoPagina(L"ProPColores") {
+        boton = Boton();
+        Poner(boton.get(), L"ColorLetra", 0x0000FF);
+        Poner(boton.get(), L"ColorFondo", 0x00FF00);
+        Poner(boton.get(), L"EstilosRell", 1);
+        REQUIRE(Seleccionar({boton}) == S_OK);
+        REQUIRE(Activar() == S_OK);
+    }
+    long Numero(const wchar_t* propiedad) {
+        return anfitrion::Entero(Leer(boton.get(), propiedad));
+    }
+    HWND Relleno() const { return Campo(L"EstiloRelleno:"); }
+    /// What the control keeps in its bag: the lists are not published.
+    std::wstring Guardado(IUnknown* objeto, const wchar_t* clave);
+
+    Puntero<IDispatch> boton;
+};
+
+/// A bag that remembers one key.
+struct Bolsa : anfitrion::ObjetoCom<IPropertyBag> {
+    std::wstring clave, valor;
+    HRESULT STDMETHODCALLTYPE Read(LPCOLESTR, VARIANT*, IErrorLog*) override {
+        return E_INVALIDARG;
+    }
+    HRESULT STDMETHODCALLTYPE Write(LPCOLESTR nombre, VARIANT* v) override {
+        if (clave == nombre)
+            valor = anfitrion::Mostrar(*v);
+        return S_OK;
+    }
+};
+
+std::wstring Colores::Guardado(IUnknown* objeto, const wchar_t* clave) {
+    const auto bolsa = anfitrion::Hacer<Bolsa>();
+    bolsa->clave = clave;
+    REQUIRE(Puntero<IUnknown>(objeto).Como<IPersistPropertyBag>()->Save(bolsa.get(), FALSE, TRUE) ==
+            S_OK);
+    return bolsa->valor;
+}
+
+/// Answers the colour chooser with a colour, or cancels it.
+class Elector {
+  public:
+    explicit Elector(COLORREF color, bool aceptar = true)
+        : contestador_([=, this](HWND dialogo) {
+              ++veces;
+              SetDlgItemInt(dialogo, 706, GetRValue(color), FALSE);
+              SetDlgItemInt(dialogo, 707, GetGValue(color), FALSE);
+              SetDlgItemInt(dialogo, 708, GetBValue(color), FALSE);
+              SendMessageW(dialogo, WM_COMMAND, aceptar ? IDOK : IDCANCEL, 0);
+          }) {}
+    int veces = 0;
+
+  private:
+    Contestador contestador_;
+};
+
+} // namespace
+
+TEST_CASE("The page shows the colours of the button on its buttons") {
+    Colores c;
+    CHECK(ColorDe(c.Campo(L"Color de letra:")) == RGB(255, 0, 0));
+    CHECK(ColorDe(c.Campo(L"Color de Fondo:")) == RGB(0, 255, 0));
+    CHECK(c.Indice(c.Relleno()) == 1);
+    const auto topes = TopesDe(c.Dialogo());
+    REQUIRE(topes.size() == 2);
+    CHECK(ColorDe(topes[0]) == RGB(255, 255, 255));
+    CHECK(ColorDe(topes[1]) == RGB(0, 0, 0));
+    CHECK_FALSE(c.Sucia());
+}
+
+TEST_CASE("The preview shows the gradient when the page opens") {
+    Colores c;
+    const auto imagen = Imagen(VistaDe(c.Dialogo()));
+    CHECK(GetRValue(imagen.Pixel(0, 5)) > 250);
+    CHECK(GetRValue(imagen.Pixel(imagen.Ancho() - 1, 5)) < 10);
+    CHECK(imagen.Colores() > 100);
+    c.Elegir(c.Relleno(), 0);
+    CHECK(ColorDe(VistaDe(c.Dialogo())) == RGB(0, 255, 0));
+    CHECK(Imagen(VistaDe(c.Dialogo())).Colores() == 1);
+}
+
+TEST_CASE("Only the frame of the chosen state is shown") {
+    Colores c;
+    const auto visibles = [&] {
+        int cuantos = 0;
+        for (const HWND una : Hijas(c.Dialogo()))
+            cuantos += SeVe(una) && Leido(una) == L"Colores";
+        return cuantos;
+    };
+    CHECK(visibles() == 1);
+    const HWND normal = c.Campo(L"Color de letra:");
+    c.Pulsar(c.La(L"Sobre"));
+    CHECK(visibles() == 1);
+    CHECK(c.Campo(L"Color de letra:") != normal);
+    CHECK_FALSE(SeVe(normal));
+    CHECK(TopesDe(c.Dialogo()).size() == 2);
+    c.Pulsar(c.La(L"Normal"));
+    CHECK(c.Campo(L"Color de letra:") == normal);
+}
+
+TEST_CASE("A colour chosen in the dialog goes to its button and, applied, to the control") {
+    Colores c;
+    {
+        Elector elector(RGB(10, 20, 30));
+        c.Pulsar(c.Campo(L"Color de letra:"));
+        CHECK(elector.veces == 1);
+    }
+    CHECK(ColorDe(c.Campo(L"Color de letra:")) == RGB(10, 20, 30));
+    CHECK(c.Sucia());
+    CHECK(c.pagina->Apply() == S_OK);
+    CHECK(c.Numero(L"ColorLetra") == 0x1E140A);
+    {
+        Elector elector(RGB(99, 99, 99), false);
+        c.Pulsar(c.Campo(L"Color de letra:"));
+        CHECK(elector.veces == 1);
+    }
+    CHECK(ColorDe(c.Campo(L"Color de letra:")) == RGB(10, 20, 30));
+    CHECK_FALSE(c.Sucia());
+}
+
+TEST_CASE("A system colour that is confirmed stays one") {
+    Colores c;
+    Poner(c.boton.get(), L"ColorFondo", static_cast<long>(0x8000000F));
+    REQUIRE(c.Seleccionar({c.boton}) == S_OK);
+    Contestador contestador([](HWND dialogo) { SendMessageW(dialogo, WM_COMMAND, IDOK, 0); });
+    c.Pulsar(c.Campo(L"Color de Fondo:"));
+    CHECK_FALSE(c.Sucia());
+    CHECK(c.pagina->Apply() == S_OK);
+    CHECK(c.Numero(L"ColorFondo") == static_cast<long>(0x8000000F));
+}
+
+TEST_CASE("Stops share the row out, whatever their number") {
+    Colores c;
+    const auto comprobar = [&](std::size_t cuantos) {
+        const auto topes = TopesDe(c.Dialogo());
+        REQUIRE(topes.size() == cuantos);
+        RECT anterior{};
+        for (std::size_t i = 0; i < topes.size(); ++i) {
+            RECT r{};
+            GetWindowRect(topes[i], &r);
+            CHECK(r.right > r.left);
+            if (i)
+                CHECK(r.left == anterior.right);
+            anterior = r;
+        }
+    };
+    comprobar(2);
+    for (int i = 0; i < 40; ++i)
+        c.Pulsar(c.La(L"+  Color"));
+    comprobar(31);
+    for (int i = 0; i < 40; ++i)
+        c.Pulsar(c.La(L"- Color"));
+    comprobar(2);
+}
+
+TEST_CASE(
+    "The tab key passes the stops from left to right, behind the fill and before their buttons") {
+    Colores c;
+    c.Pulsar(c.La(L"+  Color"));
+    const auto topes = TopesDe(c.Dialogo());
+    HWND una = GetNextDlgTabItem(c.Dialogo(), c.Campo(L"Color de Fondo:"), FALSE);
+    for (const HWND tope : topes) {
+        CHECK(una == tope);
+        una = GetNextDlgTabItem(c.Dialogo(), una, FALSE);
+    }
+    CHECK(una == c.La(L"+  Color"));
+}
+
+TEST_CASE("Stops are edited, inverted and equalised, and their lists applied") {
+    Colores c;
+    c.Pulsar(c.La(L"+  Color"));
+    {
+        Elector elector(RGB(255, 0, 0));
+        c.Pulsar(TopesDe(c.Dialogo())[1]);
+        CHECK(elector.veces == 1);
+    }
+    CHECK(c.pagina->Apply() == S_OK);
+    CHECK(c.Guardado(c.boton.get(), L"ColorDegradeN").find(L"16777215*255*0") !=
+          std::wstring::npos);
+    CHECK(c.Guardado(c.boton.get(), L"ColorDegradeS").find(L"16777215*0") != std::wstring::npos);
+    c.Pulsar(c.La(L"Invertir Orden"));
+    c.Pulsar(c.La(L"Invertir Colores"));
+    c.Pulsar(c.La(L"Igualar"));
+    CHECK(c.pagina->Apply() == S_OK);
+    CHECK(c.Guardado(c.boton.get(), L"ColorDegradeN").find(L"16777215*16776960*0") !=
+          std::wstring::npos);
+    CHECK(c.Guardado(c.boton.get(), L"ColorDegradeS") ==
+          c.Guardado(c.boton.get(), L"ColorDegradeN"));
+}
+
+TEST_CASE("A gradient's buttons are out of use with a solid fill") {
+    Colores c;
+    c.Elegir(c.Relleno(), 0);
+    CHECK_FALSE(IsWindowEnabled(c.La(L"+  Color")));
+    CHECK_FALSE(IsWindowEnabled(c.La(L"- Color")));
+    for (const HWND tope : TopesDe(c.Dialogo()))
+        CHECK_FALSE(IsWindowEnabled(tope));
+    c.Elegir(c.Relleno(), 2);
+    CHECK(IsWindowEnabled(c.La(L"+  Color")));
+    for (const HWND tope : TopesDe(c.Dialogo()))
+        CHECK(IsWindowEnabled(tope));
+}
+
+TEST_CASE("The angle is there for a diagonal, and one above 180 is told of") {
+    Colores c;
+    const HWND angulo = c.Campo(L"Angulo :");
+    CHECK_FALSE(SeVe(angulo));
+    c.Elegir(c.Relleno(), 4);
+    CHECK(SeVe(angulo));
+    CHECK(SeVe(c.La(L"Angulo :")));
+    CHECK(Leido(angulo) == L"45");
+    std::wstring mensaje;
+    int veces = 0;
+    {
+        const Contestador contestador([&](HWND dialogo) {
+            mensaje = Contestador::Mensaje(dialogo);
+            ++veces;
+            SendMessageW(dialogo, WM_COMMAND, IDOK, 0);
+        });
+        c.Escribir(angulo, L"200");
+    }
+    CHECK(veces == 1);
+    CHECK(mensaje == L"El angulo debe ser entre 0 y 180");
+    CHECK(Leido(angulo) == L"200");
+    CHECK(c.pagina->Apply() == S_OK);
+    CHECK(c.Guardado(c.boton.get(), L"Angulo").find(L"200") != std::wstring::npos);
+    CHECK(c.Numero(L"EstilosRell") == 4);
+}
+
+TEST_CASE("A selection that comes while a dialog is open is shown afterwards") {
+    Colores c;
+    const auto otro = c.Boton();
+    Poner(otro.get(), L"ColorLetra", 0xFF0000);
+    const auto topes = TopesDe(c.Dialogo());
+    {
+        const Contestador contestador([&](HWND dialogo) {
+            CHECK(c.Seleccionar({otro}) == S_OK);
+            c.boton.Soltar();
+            SendMessageW(dialogo, WM_COMMAND, IDOK, 0);
+        });
+        c.Pulsar(topes[1]);
+    }
+    CHECK(ColorDe(c.Campo(L"Color de letra:")) == RGB(0, 0, 255));
+    CHECK_FALSE(c.Sucia());
+}
+
+TEST_CASE("The frame may take the page away while a dialog is open") {
+    Colores c;
+    const auto topes = TopesDe(c.Dialogo());
+    {
+        const Contestador contestador([&](HWND dialogo) {
+            c.pagina->Deactivate();
+            c.pagina->SetObjects(0, nullptr);
+            SendMessageW(dialogo, WM_COMMAND, IDCANCEL, 0);
+        });
+        c.Pulsar(topes[0]);
+    }
+    CHECK(c.Dialogo() == nullptr);
+}
+
+TEST_CASE("What edits the rows is published, and refuses what is no row") {
+    Colores c;
+    const auto despacho = c.pagina.Como<IDispatch>();
+    REQUIRE(despacho);
+    CHECK(anfitrion::Numero(despacho.get(), L"AgregarColorD") == 0x6003000D);
+    CHECK(anfitrion::Numero(despacho.get(), L"PreVis") == 0x6003000F);
+    const auto estado = [&](const wchar_t* metodo, anfitrion::Argumentos argumentos) {
+        try {
+            anfitrion::Llamar(despacho.get(), metodo, argumentos);
+            return S_OK;
+        } catch (const anfitrion::FalloCom& fallo) {
+            return fallo.estado;
+        }
+    };
+    constexpr HRESULT Tipos = static_cast<HRESULT>(0x800A000D);
+    CHECK(estado(L"AgregarColorD", {Variante(c.boton.get()), Variante(1)}) == Tipos);
+    CHECK(estado(L"EliminarColorD", {Variante(c.boton.get()), Variante(1)}) == Tipos);
+    CHECK(estado(L"PreVis", {Variante(0), Variante(c.boton.get())}) == Tipos);
+}
+
+TEST_CASE("The page of the panel refuses a button and can be shown without objects") {
+    BancoPagina banco(L"ProPColoresArea");
+    REQUIRE(banco.Activar() == S_OK);
+    CHECK(banco.Seleccionar({banco.Boton()}) == static_cast<HRESULT>(0x800A000D));
+    CHECK_FALSE(banco.Sucia());
+    // What it offers was filled in before the object was met.
+    CHECK(SendMessageW(banco.Campo(L"Estilo Borde"), CB_GETCOUNT, 0, 0) == 4);
+    CHECK(SendMessageW(banco.Campo(L"EstiloRelleno:"), CB_GETCOUNT, 0, 0) == 4);
+    for (const wchar_t* texto : {L"Texto", L"Habilitado", L"BackStyle", L"Separaci", L"Ancho Borde",
+                                 L"Estilo Borde", L"Tipo Letra", L"Alin-Text", L"Color de letra:",
+                                 L"Color de Fondo:", L"EstiloRelleno:", L"+  Color", L"- Color"})
+        CHECK(banco.La(texto) != nullptr);
+}
