@@ -20,6 +20,14 @@ Creador CreadorDe(REFCLSID clase) {
         return &CrearEfectos;
     if (clase == DatosBotonazo.clase)
         return &CrearControl<TablaBotonazo, DatosBotonazo>;
+    if (clase == DatosTbox.clase)
+        return &CrearControl<TablaTbox, DatosTbox>;
+    if (clase == DatosTBoxML.clase)
+        return &CrearControl<TablaTBoxML, DatosTBoxML>;
+    if (clase == DatosTboxSS.clase)
+        return &CrearControl<TablaTboxSS, DatosTboxSS>;
+    if (clase == DatosTboxSSML.clase)
+        return &CrearControl<TablaTboxSSML, DatosTboxSSML>;
     return nullptr;
 }
 

@@ -185,6 +185,7 @@ class ObjetoControl : public IOleObject,
   private:
     // windows::SitioControl: what the environment asks
     void PropertyChanged(VistaTexto clave) override;
+    bool CanPropertyChange(VistaTexto clave) override;
     Fuente AmbientFont() override;
     bool UserMode() override;
     bool DisplayAsDefault() override;
@@ -194,6 +195,7 @@ class ObjetoControl : public IOleObject,
     void PedirFoco() override;
     void FocoCambiado(bool dentro) override;
     void EnviarTab() override;
+    void MoverFoco(bool atras) override;
     void ControlesContenidos(const std::function<void(ControlContenido&)>& visita) override;
     bool EntradaCongelada() override;
     bool Mensaje(HWND ventana, UINT mensaje, WPARAM w, LPARAM l, LRESULT* resultado) override;
@@ -248,6 +250,7 @@ class ObjetoControl : public IOleObject,
     // Resolution and assistive programs: see entorno_visual.cpp.
     void PonPppDe(HWND ventana);
     ObjetoAccesible* DarAccesible(HWND ventana);
+    ObjetoAccesible* DarAccesibleDeCampo(HWND ventana);
 
     void AvisarVista();
     void AvisarCambio(DISPID dispid);
@@ -278,10 +281,13 @@ class ObjetoControl : public IOleObject,
 
     HACCEL aceleradores_ = nullptr;
     Texto teclasDeAcceso_;
+    bool comeEnter_ = false; // as the container was last told
 
     int porDefecto_ = -1; // -1 not asked yet
     std::optional<AtributosFuente> fuenteAmbiente_;
     Ptr<ObjetoAccesible> accesible_;
+    Ptr<ObjetoAccesible> accesibleDeCampo_;
+    HWND campoAccesible_ = nullptr; // whose object it is
     Accesible descrito_;
     long estadoDescrito_ = 0;
 

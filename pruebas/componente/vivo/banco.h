@@ -1,4 +1,5 @@
-// A button on a form, its events written down, and the hands that use it.
+// A control on a form, a button unless another is asked for, its events written down, and the
+// hands that use it.
 #pragma once
 
 #include "anfitrion/captura.h"
@@ -70,12 +71,12 @@ inline void Tecla(WORD tecla, bool abajo) {
     SendInput(1, &entrada, sizeof entrada);
 }
 
-/// A form of 300 x 200 pixels with one button of 120 x 40 at (40, 40).
+/// A form of 300 x 200 pixels with one control of 120 x 40 at (40, 40).
 class Banco {
   public:
     static constexpr RECT Lugar{40, 40, 160, 80};
 
-    explicit Banco(OpcionesFormulario opciones = {}) {
+    explicit Banco(OpcionesFormulario opciones = {}, const wchar_t* clase = L"Pincela.Botonazo") {
         AbrirOle();
         componente = Componente::DeFichero(RutaComponente());
         registro = std::make_shared<Registro>();
@@ -85,7 +86,7 @@ class Banco {
         forma = std::make_unique<Formulario>(opciones);
         SetCursorPos(1200, 1000);
         SetForegroundWindow(forma->Ventana());
-        boton = Agregar(L"Boton", Lugar);
+        boton = Agregar(L"Boton", Lugar, clase);
         sumidero = boton->Conectar([this](Evento& evento) { Anotar(evento); });
         forma->BombearMensajes();
         Olvidar();

@@ -1,4 +1,4 @@
-// The button inside the platform's own host window, which is not ours.
+// A control inside the platform's own host window, which is not ours.
 #pragma once
 
 #include "pruebas/componente/vivo/banco.h"
@@ -8,19 +8,20 @@ namespace vivo {
 /// A top-level window with a host window of 120 x 40 at (40, 40) and a text box below.
 class BancoAtl {
   public:
-    BancoAtl() {
+    explicit BancoAtl(const wchar_t* clase = L"Pincela.Botonazo") {
         AbrirOle();
         componente = Componente::DeFichero(RutaComponente());
         marco = CreateWindowExW(0, Clase(), L"Atl", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 320,
                                 240, nullptr, nullptr, nullptr, nullptr);
         huesped = CreateWindowExW(0, Clase(), L"", WS_CHILD | WS_VISIBLE, 40, 40, 120, 40, marco,
                                   nullptr, nullptr, nullptr);
-        texto = CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 10, 150, 60, 20, marco,
+        texto = CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 10, 150, 60,
+                                20, marco,
                                 nullptr, nullptr, nullptr);
         SetCursorPos(1200, 1000);
         SetForegroundWindow(marco);
         SetFocus(texto);
-        objeto = Crear();
+        objeto = Crear(clase);
         objeto.Como<IOleWindow>()->GetWindow(&ventana);
         sumidero = Hacer<SumideroEventos>([this](Evento& e) {
             hechos.push_back(Describir(e));
@@ -97,7 +98,7 @@ class BancoAtl {
         return clase ? L"PruebaAtl" : nullptr;
     }
     /// The host makes the control itself, by its class identifier.
-    Puntero<IOleObject> Crear() const {
+    Puntero<IOleObject> Crear(const wchar_t* deClase) const {
         const HMODULE modulo = GetModuleHandleW(RutaComponente().c_str());
         const HMODULE atl = LoadLibraryW(L"atl.dll");
         REQUIRE(modulo);
@@ -106,7 +107,7 @@ class BancoAtl {
         const auto crear =
             Funcion<HRESULT(WINAPI*)(LPCOLESTR, HWND, IStream*, IUnknown**, IUnknown**, REFIID,
                                      IUnknown*)>(atl, "AtlAxCreateControlEx");
-        const CLSID clase = componente.Clase(L"Pincela.Botonazo");
+        const CLSID clase = componente.Clase(deClase);
         // Known to this process alone, and only for as long as the host looks for it.
         Puntero<IUnknown> fabrica, anfitrion, control;
         Comprobar(fabricar(clase, IID_IUnknown, fabrica.RecibirVoid()), "DllGetClassObject");
