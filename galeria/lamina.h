@@ -1,4 +1,4 @@
-// The sheet under the buttons: title, cards and headings.
+// The sheet under the controls: title, cards and headings.
 #pragma once
 
 #include "galeria/muestras.h"
@@ -14,7 +14,7 @@ constexpr RECT TarjetaEventos{716, 76, 956, 664};
 constexpr int AnchoPagina = 980;
 constexpr int AltoPagina = 700;
 /// Inside of a card: space to the edge, height of the heading, of the column captions, and the gap
-/// between buttons.
+/// between controls.
 constexpr int Margen = 14;
 constexpr int AltoTitulo = 26;
 constexpr int AltoCabecera = 18;
@@ -23,7 +23,7 @@ constexpr int Hueco = 8;
 constexpr COLORREF ColorLamina = RGB(243, 245, 249);
 constexpr COLORREF ColorTarjeta = RGB(255, 255, 255);
 
-/// Place of the n-th button of a group, at 96 dpi.
+/// Place of the n-th control of a group, at 96 dpi.
 RECT LugarDeMuestra(const Grupo& grupo, int n);
 
 struct SoltarObjeto {
@@ -34,14 +34,18 @@ FuenteGdi CrearFuenteGdi(double puntos, int peso);
 
 class Lamina {
   public:
-    Lamina();
+    explicit Lamina(const Hoja& hoja);
     void Pintar(HDC hdc, const RECT& cliente) const;
+    /// A card of its own, at 96 dpi.
+    void PintarTarjeta(HDC hdc, const RECT& lugar, const wchar_t* titulo) const;
+    /// A word in small letters, at 96 dpi.
+    void PintarNota(HDC hdc, const RECT& lugar, const wchar_t* texto) const;
     HFONT Texto() const { return static_cast<HFONT>(texto_.get()); }
 
   private:
-    void PintarTarjeta(HDC hdc, const RECT& lugar, const wchar_t* titulo) const;
     void PintarCabeceras(HDC hdc, const Grupo& grupo) const;
 
+    const Hoja& hoja_;
     FuenteGdi titular_, titulo_, texto_;
 };
 

@@ -1,37 +1,17 @@
-// First page of the gallery: buttons of every kind and what they tell.
+// First page of the gallery: buttons of every kind.
 #pragma once
 
-#include "anfitrion/formulario.h"
-#include "galeria/diario.h"
-#include "galeria/lamina.h"
-#include "galeria/muestras.h"
-
-#include <optional>
+#include "galeria/pagina.h"
 
 namespace galeria {
 
-class PaginaBotones {
+class PaginaBotones final : public Pagina {
   public:
-    /// Throws anfitrion::FalloCom when the component can't be had. A null component leaves the
-    /// page without buttons.
-    explicit PaginaBotones(const std::optional<anfitrion::Componente>& componente);
+    explicit PaginaBotones(const std::optional<anfitrion::Componente>& componente)
+        : Pagina(HojaDeBotones, componente) {}
 
-    anfitrion::Formulario& Forma() { return forma_; }
-    /// Clicks one button and presses the access key of another, so that a picture shows the page at
-    /// work.
-    void Ensayar();
-
-  private:
-    static anfitrion::OpcionesFormulario Opciones();
-    void Poner(const anfitrion::Componente& componente, const Grupo& grupo, int n);
-    void PonerLimpiar(const anfitrion::Componente& componente);
-    std::shared_ptr<anfitrion::ControlAlojado>
-    PonerBoton(const anfitrion::Componente& componente, const std::wstring& nombre,
-               const RECT& lugar, std::span<const Par> comunes, std::span<const Par> propios);
-
-    Lamina lamina_;
-    anfitrion::Formulario forma_;
-    Diario diario_;
+    /// Clicks one button and presses the access key of another.
+    void Ensayar() override;
 };
 
 } // namespace galeria

@@ -1,7 +1,7 @@
 // Entry point of the gallery.
-//   galeria [--ocx FILE] [--captura FILE.png] [--vacia]
+//   galeria [--ocx FILE] [--pagina NAME] [--captura FILE.png] [--vacia]
 #include "anfitrion/captura.h"
-#include "galeria/pagina_botones.h"
+#include "galeria/pagina.h"
 
 #include <commctrl.h>
 #include <shellapi.h>
@@ -15,15 +15,26 @@ using namespace anfitrion;
 
 struct Ordenes {
     std::wstring captura; ///< picture to write instead of staying on screen
+    const galeria::FichaDePagina* pagina = nullptr; ///< the one to show; null for all of them
     std::wstring ocx;     ///< component file to use instead of the registered one
     bool vacia = false;   ///< the sheet alone, without controls
     bool ayuda = false;
 };
 
-constexpr wchar_t Uso[] = L"galeria [--ocx FICHERO] [--captura FICHERO.png] [--vacia]\n"
+constexpr wchar_t Uso[] = L"galeria [--ocx FICHERO] [--pagina NOMBRE] [--captura FICHERO.png] "
+                          L"[--vacia]\n"
                           L"  --ocx      usa ese componente en vez del registrado\n"
-                          L"  --captura  escribe la página en un PNG y termina\n"
+                          L"  --pagina   empieza por esa página: botones o cajas\n"
+                          L"  --captura  escribe la página en un PNG y termina; sin --pagina, "
+                          L"cada una en el suyo\n"
                           L"  --vacia    muestra la lámina sin controles\n";
+
+const galeria::FichaDePagina* PaginaConNombre(const std::wstring& nombre) {
+    for (const galeria::FichaDePagina& ficha : galeria::Paginas)
+        if (nombre == ficha.nombre)
+            return &ficha;
+    return nullptr;
+}
 
 Ordenes LeerOrdenes() {
     Ordenes ordenes;
@@ -35,7 +46,10 @@ Ordenes LeerOrdenes() {
             ordenes.captura = partes[++i];
         else if (parte == L"--ocx" && i + 1 < n)
             ordenes.ocx = partes[++i];
-        else if (parte == L"--vacia")
+        else if (parte == L"--pagina" && i + 1 < n) {
+            ordenes.pagina = PaginaConNombre(partes[++i]);
+            ordenes.ayuda = ordenes.ayuda || !ordenes.pagina;
+        } else if (parte == L"--vacia")
             ordenes.vacia = true;
         else
             ordenes.ayuda = true;
@@ -57,7 +71,7 @@ void Avisar(const std::wstring& texto, bool caja) {
 std::wstring Explicar(const FalloCom& fallo, const Ordenes& ordenes) {
     wchar_t numero[16];
     wsprintfW(numero, L"0x%08X", static_cast<unsigned>(fallo.estado));
-    if (fallo.estado == REGDB_E_CLASSNOTREG)
+    if (fallo.estado == REGDB_E_CLASSNOTREG || fallo.estado == CO_E_CLASSSTRING)
         return L"El componente Pincela.ocx no está registrado en este equipo.\n"
                L"Regístrelo con «regsvr32 Pincela.ocx» o indique dónde está con "
                L"«galeria --ocx RUTA\\Pincela.ocx».";
@@ -69,21 +83,45 @@ std::wstring Explicar(const FalloCom& fallo, const Ordenes& ordenes) {
     return texto + L").";
 }
 
+/// Name of a page's picture: the first page takes the one that was asked for.
+std::wstring FicheroDe(const Ordenes& ordenes, const galeria::FichaDePagina& ficha) {
+    if (ordenes.pagina || &ficha == &galeria::Paginas.front())
+        return ordenes.captura;
+    const std::size_t punto = ordenes.captura.rfind(L'.');
+    return ordenes.captura.substr(0, punto) + L"-" + ficha.nombre +
+           (punto == std::wstring::npos ? L"" : ordenes.captura.substr(punto));
+}
+
+void Retratar(galeria::Pagina& pagina, const std::wstring& fichero) {
+    Formulario& forma = pagina.Forma();
+    forma.Esperar(200);
+    pagina.Ensayar();
+    forma.Esperar(300);
+    Captura::DeVentana(forma.Ventana()).GuardarPng(fichero);
+}
+
 int Mostrar(const Ordenes& ordenes) {
     std::optional<Componente> componente;
     if (!ordenes.vacia)
         componente =
             ordenes.ocx.empty() ? Componente::DeRegistro() : Componente::DeFichero(ordenes.ocx);
-    galeria::PaginaBotones pagina(componente);
-    Formulario& forma = pagina.Forma();
+    const auto abrir = [&](const galeria::FichaDePagina& ficha) {
+        auto pagina = ficha.abrir(componente);
+        pagina->Mostrar(ficha);
+        return pagina;
+    };
+    const galeria::FichaDePagina* ficha = ordenes.pagina ? ordenes.pagina : &galeria::Paginas[0];
     if (ordenes.captura.empty()) {
-        forma.Ejecutar();
+        while (ficha) {
+            const auto pagina = abrir(*ficha);
+            pagina->Forma().Ejecutar();
+            ficha = pagina->Siguiente();
+        }
         return 0;
     }
-    forma.Esperar(200);
-    pagina.Ensayar();
-    forma.Esperar(300);
-    Captura::DeVentana(forma.Ventana()).GuardarPng(ordenes.captura);
+    for (const galeria::FichaDePagina& una : galeria::Paginas)
+        if (!ordenes.pagina || ordenes.pagina == &una)
+            Retratar(*abrir(una), FicheroDe(ordenes, una));
     return 0;
 }
 

@@ -277,6 +277,13 @@ bool CajaTextoWindows::ProcesarTecla(UINT mensaje, WPARAM& w) {
     }
     if (codigo == 0 || !vive)
         return true;
+    if (mensaje == WM_KEYDOWN && multilinea_ && codigo == VK_TAB) {
+        // With CTRL, as here, the keyboard makes a character of it on some platforms only.
+        MSG letra;
+        ::PeekMessageW(&letra, ventana, WM_CHAR, WM_CHAR, PM_REMOVE);
+        ::SendMessageW(ventana, WM_CHAR, VK_TAB, 1);
+        return true;
+    }
     if (mensaje != WM_CHAR)
         return false;
     if (multilinea_ && codigo == VK_TAB)

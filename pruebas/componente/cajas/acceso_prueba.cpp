@@ -87,9 +87,11 @@ TEST_CASE("The field is a text with its value, read-only when locked, unavailabl
 }
 
 TEST_CASE("What a reader holds of a field outlives the control and says so") {
+    Componente componente; // stays loaded for as long as the reader holds its object
     Puntero<IAccessible> sostenido;
     {
         BancoDeCaja b(L"Pincela.Tbox");
+        componente = b.componente;
         b.Poner(L"Caption", L"Calle");
         sostenido = AccesibleDe(b.Campo());
     }

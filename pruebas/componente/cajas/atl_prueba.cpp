@@ -110,8 +110,10 @@ TEST_CASE("The mouse that leaves is told in the host as anywhere") {
 }
 
 TEST_CASE("A million letters go through the host unharmed") {
-    BancoDeHuesped b(CadaClase());
-    const std::wstring largo(1000000, L'x');
+    BancoDeHuesped b(L"Pincela.TboxSSML");
+    std::wstring largo;
+    while (largo.size() < 1000000)
+        largo += L"línea de un texto muy largo, con eñes\r\n";
     b.Poner(L"Text", largo);
     CHECK(b.Text() == largo);
 }

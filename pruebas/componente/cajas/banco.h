@@ -1,6 +1,7 @@
 // A text box on a form, and the hands that type into it.
 #pragma once
 
+#include "anfitrion/imagenes.h"
 #include "pruebas/componente/vivo/banco.h"
 
 namespace cajas {
@@ -36,6 +37,10 @@ struct BancoDeCaja : Banco {
     IDispatch* Caja() const { return boton->Despacho(); }
     HWND Campo() const { return CampoDe(Ventana()); }
     std::wstring Text() { return Texto(Leer(L"Text")); }
+    void PonerFuente(const wchar_t* nombre, double puntos) {
+        const auto fuente = CrearFuente(nombre, puntos);
+        anfitrion::PonerRef(Caja(), L"Fuente", Variante(fuente.get()));
+    }
     long Numero(const wchar_t* nombre) { return Entero(Leer(nombre)); }
 
     void Enfocar() {

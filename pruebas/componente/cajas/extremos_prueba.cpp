@@ -15,6 +15,13 @@ const wchar_t* CadaMultilinea() {
     return Cada({L"Pincela.TBoxML", L"Pincela.TboxSSML"});
 }
 
+LOGFONTW FuenteDe(HWND campo) {
+    LOGFONTW fuente{};
+    GetObjectW(reinterpret_cast<HFONT>(SendMessageW(campo, WM_GETFONT, 0, 0)), sizeof fuente,
+               &fuente);
+    return fuente;
+}
+
 /// As an application deep inside its lists holds it.
 std::wstring Renglones(int cuantos) {
     std::wstring texto;
@@ -53,10 +60,11 @@ TEST_CASE("Letters beyond the basic plane, line ends and tabs come back unharmed
 TEST_CASE("Another alignment or appearance keeps text, selection, font, lock, limit and focus") {
     BancoDeCaja b(CadaClase());
     b.Poner(L"MaxText", 50L);
+    b.PonerFuente(L"Courier New", 14);
     b.Poner(L"Text", L"uno dos tres");
     b.Enfocar();
     SendMessageW(b.Campo(), EM_SETSEL, 4, 7);
-    const auto fuente = SendMessageW(b.Campo(), WM_GETFONT, 0, 0);
+    const LOGFONTW fuente = FuenteDe(b.Campo());
     for (const auto& [nombre, valor] : {std::pair{L"AlinText", 2L}, std::pair{L"AlinText", 1L},
                                         std::pair{L"Apariencia", 0L}, std::pair{L"Apariencia", 1L}}) {
         const HWND antes = b.Campo();
@@ -70,7 +78,8 @@ TEST_CASE("Another alignment or appearance keeps text, selection, font, lock, li
         CHECK(hasta == 7);
         CHECK(b.Text() == L"uno dos tres");
         CHECK(GetFocus() == b.Campo());
-        CHECK(SendMessageW(b.Campo(), WM_GETFONT, 0, 0) == fuente);
+        CHECK(FuenteDe(b.Campo()).lfHeight == fuente.lfHeight);
+        CHECK(std::wstring(FuenteDe(b.Campo()).lfFaceName) == fuente.lfFaceName);
         CHECK(SendMessageW(b.Campo(), EM_GETLIMITTEXT, 0, 0) == 50);
     }
     CHECK(b.Veces("Change") == 0);

@@ -2,6 +2,8 @@
 #include "pruebas/cada.h"
 #include "pruebas/componente/cajas/banco.h"
 
+#include <commctrl.h>
+
 using namespace cajas;
 using pincela::pruebas::Cada;
 
@@ -50,19 +52,21 @@ const wchar_t* CadaEtiquetada() {
 
 TEST_CASE("The mouse over surface, caption or field brings the second colours, leaving is told once") {
     BancoDeRaton b(CadaEtiquetada());
-    const int donde = Cada({0, 1, 2});
-    CHECK(b.Fondo() == Rojo);
-    if (donde == 0)
-        b.Entrar(1, 30);
-    else if (donde == 1)
-        b.Entrar(10, 50);
-    else
-        b.EntrarEnCampo();
-    CHECK(b.Fondo() == Verde);
-    CHECK(b.Veces("MouseMove") >= 1);
-    b.Salir();
-    CHECK(b.Fondo() == Rojo);
-    CHECK(b.Veces("MouseSale") == 1);
+    for (const int donde : {0, 1, 2}) {
+        b.Olvidar();
+        CHECK(b.Fondo() == Rojo);
+        if (donde == 0)
+            b.Entrar(1, 30);
+        else if (donde == 1)
+            b.Entrar(10, 50);
+        else
+            b.EntrarEnCampo();
+        CHECK(b.Fondo() == Verde);
+        CHECK(b.Veces("MouseMove") >= 1);
+        b.Salir();
+        CHECK(b.Fondo() == Rojo);
+        CHECK(b.Veces("MouseSale") == 1);
+    }
 }
 
 TEST_CASE("Moves are told in the coordinates of the element under the mouse") {
@@ -146,14 +150,22 @@ TEST_CASE("The plain pair has no hover: the mouse changes no colour and nobody h
     CHECK(b.Veces("MouseSale") == 0);
 }
 
-TEST_CASE("The tip shows over the field") {
+TEST_CASE("Over the field the tip is the one that was assigned") {
     BancoDeRaton b(
         Cada({L"Pincela.Tbox", L"Pincela.TBoxML", L"Pincela.TboxSS", L"Pincela.TboxSSML"}));
     b.Poner(L"ToolTipText", L"Escriba aquí");
     b.EntrarEnCampo();
-    LlevarRaton(b.Campo(), 32, 10);
-    b.Esperar(1200);
-    const HWND globo = FindWindowW(L"tooltips_class32", nullptr);
-    REQUIRE(globo != nullptr);
-    CHECK(IsWindowVisible(globo));
+    std::wstring dicho;
+    for (HWND globo = nullptr;
+         (globo = FindWindowExW(nullptr, globo, TOOLTIPS_CLASSW, nullptr)) != nullptr;) {
+        wchar_t texto[80] = L"";
+        TTTOOLINFOW info{};
+        info.cbSize = TTTOOLINFOW_V1_SIZE;
+        info.hwnd = b.Ventana();
+        info.uId = 1;
+        info.lpszText = texto;
+        if (SendMessageW(globo, TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&info)); *texto)
+            dicho = texto;
+    }
+    CHECK(dicho == L"Escriba aquí");
 }

@@ -119,8 +119,8 @@ TEST_CASE("What the edit field can't take is refused with a clear error") {
     CHECK(IntentarPoner(caja.get(), L"AlinText", 3) == Error(380));
     CHECK(IntentarPoner(caja.get(), L"Apariencia", -1) == Error(380));
     CHECK(IntentarPoner(caja.get(), L"MaxText", -1) == Error(380));
-    CHECK(IntentarPoner(caja.get(), L"ColorFondo", L"azul") == Error(13));
-    CHECK(IntentarPoner(caja.get(), L"Separa", 40000L) == Error(6));
+    CHECK(IntentarPoner(caja.get(), L"ColorFondo", L"azul") == DISP_E_TYPEMISMATCH);
+    CHECK(IntentarPoner(caja.get(), L"Separa", 40000L) == DISP_E_OVERFLOW);
     CHECK(caja.Valor(L"AlinText") == "0");
     CHECK(caja.Valor(L"MaxText") == "0");
     try {
