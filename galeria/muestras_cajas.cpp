@@ -48,9 +48,7 @@ constexpr Muestra Letras[] = {
     {L"InvesoL", {{{L"TipoLetra", InvesoL}}}},
     {L"InvesoU", {{{L"TipoLetra", InvesoU}}}},
     {L"Con el ratón",
-     {{{L"ColorLetraES", Blanco},
-       {L"ColorFondoSobre", Azul},
-       {L"ColorFonTextoS", Crema}}}},
+     {{{L"ColorLetraES", Blanco}, {L"ColorFondoSobre", Azul}, {L"ColorFonTextoS", Crema}}}},
 };
 
 constexpr Muestra Tipos[] = {
@@ -77,9 +75,7 @@ constexpr Muestra Estados[] = {
 
 constexpr Muestra Multiples[] = {
     {L"Notas ",
-     {{{L"AlinTBox", DerMed},
-       {L"TipoSombra", Gris},
-       {L"Text", L"Con barra\r\ny con\r\nsombra."}}}},
+     {{{L"AlinTBox", DerMed}, {L"TipoSombra", Gris}, {L"Text", L"Con barra\r\ny con\r\nsombra."}}}},
     {nullptr,
      {{{L"NavConEnter", false},
        {L"ToolTipText", L"Nota"},

@@ -60,19 +60,19 @@ void PaginaCajas::PonerDemas() {
         const std::array<Par, 3> propios{{{L"TipoTexto", campo.tipo},
                                           {L"ToolTipText", campo.ayuda},
                                           {L"AlinText", campo.alineacion}}};
-        campos_.push_back(
-            PonerControl(L"TboxSS", campo.nombre, LugarDeCampo(n), comunes, propios));
+        campos_.push_back(PonerControl(L"TboxSS", campo.nombre, LugarDeCampo(n), comunes, propios));
     }
     const RECT ultimo = LugarDeCampo(CuantosCampos);
-    const std::array<Par, 6> deBoton{{{L"Caption", L"&Agregar"},
-                                      {L"EstilosRell", 2},
-                                      {L"ColorDegradeN", Tonos(Rgb(255, 255, 255), Rgb(187, 235, 213))},
-                                      {L"ColorDegradeS", Tonos(Rgb(255, 255, 255), Rgb(134, 214, 176))},
-                                      {L"ColorLetra", Rgb(31, 41, 55)},
-                                      {L"ColorLetraSobre", Rgb(22, 101, 72)}}};
+    const std::array<Par, 6> deBoton{
+        {{L"Caption", L"&Agregar"},
+         {L"EstilosRell", 2},
+         {L"ColorDegradeN", Tonos(Rgb(255, 255, 255), Rgb(187, 235, 213))},
+         {L"ColorDegradeS", Tonos(Rgb(255, 255, 255), Rgb(134, 214, 176))},
+         {L"ColorLetra", Rgb(31, 41, 55)},
+         {L"ColorLetraSobre", Rgb(22, 101, 72)}}};
     const auto agregar =
-        PonerControl(L"Botonazo", L"Agregar", {ultimo.right - 100, ultimo.top, ultimo.right, ultimo.top + 30},
-                     {}, deBoton);
+        PonerControl(L"Botonazo", L"Agregar",
+                     {ultimo.right - 100, ultimo.top, ultimo.right, ultimo.top + 30}, {}, deBoton);
     agregar->Conectar([this](Evento& evento) {
         if (evento.nombre == L"Click")
             Guardar();

@@ -16,8 +16,8 @@ using namespace anfitrion;
 struct Ordenes {
     std::wstring captura; ///< picture to write instead of staying on screen
     const galeria::FichaDePagina* pagina = nullptr; ///< the one to show; null for all of them
-    std::wstring ocx;     ///< component file to use instead of the registered one
-    bool vacia = false;   ///< the sheet alone, without controls
+    std::wstring ocx;   ///< component file to use instead of the registered one
+    bool vacia = false; ///< the sheet alone, without controls
     bool ayuda = false;
 };
 

@@ -115,8 +115,8 @@ ObjetoAccesible* ObjetoControl::DarAccesibleDeCampo(HWND ventana) {
         return campo;
     };
     accesibleDeCampo_ = Ptr<ObjetoAccesible>::Adoptar(new ObjetoAccesible(
-        std::move(estandar), {describir, [ventana] { return GetFocus() == ventana; }, [] {},
-                              [this] { PedirFoco(); }}));
+        std::move(estandar),
+        {describir, [ventana] { return GetFocus() == ventana; }, [] {}, [this] { PedirFoco(); }}));
     return accesibleDeCampo_.get();
 }
 

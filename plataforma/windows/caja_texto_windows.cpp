@@ -239,8 +239,8 @@ RECT CajaTextoWindows::Rectangulo() const {
 // A scroll bar at rest, with nothing to scroll.
 void CajaTextoWindows::DibujarBarra(const Destino& destino, RECT& campo) const {
     RECT barra = campo;
-    barra.left = std::max(campo.left, campo.right - Redondo(::GetSystemMetrics(SM_CXVSCROLL) *
-                                                            destino.sx));
+    barra.left =
+        std::max(campo.left, campo.right - Redondo(::GetSystemMetrics(SM_CXVSCROLL) * destino.sx));
     const LONG boton = std::min<LONG>(Redondo(::GetSystemMetrics(SM_CYVSCROLL) * destino.sy),
                                       (barra.bottom - barra.top) / 2);
     Llenar(destino.dc, barra, ::GetSysColor(COLOR_SCROLLBAR));

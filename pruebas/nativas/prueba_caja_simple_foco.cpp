@@ -108,8 +108,8 @@ TEST_CASE("the filter is the one of all text boxes") {
 TEST_CASE("what the user types is told as a change of the property, before the event") {
     auto p = NuevaCaja<TboxSS>();
     p->Teclear(u"a");
-    CHECK(p->Tomar() ==
-          Lineas{"evento TocoTecla 97", "DoEvents", "Pide Text", "PC Text", "evento Change", "DoEvents"});
+    CHECK(p->Tomar() == Lineas{"evento TocoTecla 97", "DoEvents", "Pide Text", "PC Text",
+                               "evento Change", "DoEvents"});
 }
 
 TEST_CASE("a container that refuses a change keeps the text, typed or assigned") {
@@ -136,7 +136,8 @@ TEST_CASE("Enter is the control's own where it moves on or starts a line") {
 TEST_CASE("an assignment is told once") {
     auto p = NuevaCaja<TboxSS>();
     p->c->PonText(u"a");
-    CHECK(p->Tomar() == Lineas{"Pide Text", "txtTexto.Text \"a\"", "evento Change", "DoEvents", "PC Text"});
+    CHECK(p->Tomar() ==
+          Lineas{"Pide Text", "txtTexto.Text \"a\"", "evento Change", "DoEvents", "PC Text"});
 }
 
 TEST_CASE("keys are told on their way down and up, then the host attends to what is pending") {

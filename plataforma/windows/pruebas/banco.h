@@ -33,7 +33,9 @@ class SitioDePrueba final : public SitioControl {
         hechos.push_back(dentro ? "FocoCambiado si" : "FocoCambiado no");
     }
     void EnviarTab() override { hechos.push_back("EnviarTab"); }
-    void MoverFoco(bool atras) override { hechos.push_back(atras ? "MoverFoco atras" : "MoverFoco"); }
+    void MoverFoco(bool atras) override {
+        hechos.push_back(atras ? "MoverFoco atras" : "MoverFoco");
+    }
     void ControlesContenidos(const std::function<void(ControlContenido&)>&) override {}
     bool EntradaCongelada() override { return congelado; }
     bool Mensaje(HWND, UINT mensaje, WPARAM, LPARAM, LRESULT* resultado) override {

@@ -12,9 +12,7 @@ struct BancoDeHuesped : BancoAtl {
     explicit BancoDeHuesped(const wchar_t* clase) : BancoAtl(clase) {}
 
     HWND Campo() const { return CampoDe(ventana); }
-    std::wstring Text() const {
-        return Texto(Leer(objeto.Como<IDispatch>().get(), L"Text"));
-    }
+    std::wstring Text() const { return Texto(Leer(objeto.Como<IDispatch>().get(), L"Text")); }
     void Entrar() {
         Llevar(Campo(), 10, 8);
         Clic();

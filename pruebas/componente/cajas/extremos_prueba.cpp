@@ -46,8 +46,8 @@ TEST_CASE("A text of a million letters comes back unharmed, from the window too"
 
 TEST_CASE("Letters beyond the basic plane, line ends and tabs come back unharmed") {
     BancoDeCaja b(CadaClase());
-    for (const wchar_t* texto : {L"\xD83D\xDE00 y \xD834\xDD1E", L"uno\r\ndos\r\n\r\n", L"a\tb",
-                                 L"ñÑüÜçÇ €", L"\r\n"}) {
+    for (const wchar_t* texto :
+         {L"\xD83D\xDE00 y \xD834\xDD1E", L"uno\r\ndos\r\n\r\n", L"a\tb", L"ñÑüÜçÇ €", L"\r\n"}) {
         b.Poner(L"Text", texto);
         CHECK(b.Text() == texto);
         b.boton->Como<IOleInPlaceObject>()->InPlaceDeactivate();
@@ -65,8 +65,9 @@ TEST_CASE("Another alignment or appearance keeps text, selection, font, lock, li
     b.Enfocar();
     SendMessageW(b.Campo(), EM_SETSEL, 4, 7);
     const LOGFONTW fuente = FuenteDe(b.Campo());
-    for (const auto& [nombre, valor] : {std::pair{L"AlinText", 2L}, std::pair{L"AlinText", 1L},
-                                        std::pair{L"Apariencia", 0L}, std::pair{L"Apariencia", 1L}}) {
+    for (const auto& [nombre, valor] :
+         {std::pair{L"AlinText", 2L}, std::pair{L"AlinText", 1L}, std::pair{L"Apariencia", 0L},
+          std::pair{L"Apariencia", 1L}}) {
         const HWND antes = b.Campo();
         b.Poner(nombre, valor);
         CHECK(b.Campo() != antes);

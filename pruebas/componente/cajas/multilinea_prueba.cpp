@@ -33,7 +33,8 @@ TEST_CASE("Enter goes into the text of many lines") {
     CHECK(b.Ultimo("TocoTecla") == "TocoTecla 115");
 }
 
-TEST_CASE("With NavConEnter Enter leaves the field of many lines, and is not taken out of the text") {
+TEST_CASE(
+    "With NavConEnter Enter leaves the field of many lines, and is not taken out of the text") {
     BancoDeRenglones b(L"Pincela.TboxSSML");
     b.Poner(L"NavConEnter", true);
     b.Poner(L"SelecConFoco", false);
@@ -86,7 +87,8 @@ TEST_CASE("In a dialog of the platform Escape and Enter go where they should") {
     const HWND campo = b.Campo();
     MSG enter{campo, WM_KEYDOWN, VK_RETURN, 1, 0, {}};
     const auto codigo = [&](const MSG& mensaje) {
-        return SendMessageW(campo, WM_GETDLGCODE, mensaje.wParam, reinterpret_cast<LPARAM>(&mensaje));
+        return SendMessageW(campo, WM_GETDLGCODE, mensaje.wParam,
+                            reinterpret_cast<LPARAM>(&mensaje));
     };
     CHECK((codigo(enter) & DLGC_WANTMESSAGE) != 0);
     for (const WPARAM tecla : {WPARAM{VK_TAB}, WPARAM{VK_ESCAPE}}) {

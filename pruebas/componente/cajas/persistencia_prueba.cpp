@@ -82,8 +82,7 @@ TEST_CASE("A text box reads its keys in their order, those of the button among t
     const Caja caja(CadaClase());
     const auto bolsa = Hacer<BolsaMemoria>();
     REQUIRE(caja.Como<IPersistPropertyBag>()->Load(bolsa.get(), nullptr) == S_OK);
-    CHECK(Claves(*bolsa.get(), false) ==
-          (EsSimple(caja.clase) ? LeidasSimple : LeidasEtiquetada));
+    CHECK(Claves(*bolsa.get(), false) == (EsSimple(caja.clase) ? LeidasSimple : LeidasEtiquetada));
 }
 
 TEST_CASE("A text box writes what differs from its defaults, in order") {
@@ -136,7 +135,8 @@ TEST_CASE("A text box comes back from a storage with every property") {
     Comparar(RetratoDe(otra), Esperado(una));
 }
 
-TEST_CASE("A bag without keys gives the labelled pair its place beside and the plain pair its looks") {
+TEST_CASE(
+    "A bag without keys gives the labelled pair its place beside and the plain pair its looks") {
     const Caja caja(CadaClase());
     const auto bolsa = Hacer<BolsaMemoria>();
     CambiarTodas(caja); // what was there before does not shine through
@@ -187,7 +187,8 @@ TEST_CASE("A restored caption is shown without its access key, an assigned one b
     const struct {
         const wchar_t* titulo;
         std::vector<WORD> teclas;
-    } casos[] = {{L"&Nombre", {'n', 'N'}}, {L"Nombre", {}}, {L"Nombre&", {}}, {L"N&ñ", {0xF1, 0xD1}}};
+    } casos[] = {
+        {L"&Nombre", {'n', 'N'}}, {L"Nombre", {}}, {L"Nombre&", {}}, {L"N&ñ", {0xF1, 0xD1}}};
     for (const auto& caso : casos) {
         Poner(una.get(), L"Caption", caso.titulo);
         REQUIRE(una.Como<IOleControl>()->GetControlInfo(&info) == S_OK);

@@ -50,7 +50,8 @@ const wchar_t* CadaEtiquetada() {
 
 } // namespace
 
-TEST_CASE("The mouse over surface, caption or field brings the second colours, leaving is told once") {
+TEST_CASE(
+    "The mouse over surface, caption or field brings the second colours, leaving is told once") {
     BancoDeRaton b(CadaEtiquetada());
     for (const int donde : {0, 1, 2}) {
         b.Olvidar();

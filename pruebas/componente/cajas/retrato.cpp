@@ -5,21 +5,22 @@ namespace cajas {
 namespace {
 
 constexpr const wchar_t* DeEtiquetadas[] = {
-    L"AlinTBox",       L"AlinText",      L"Caption",        L"MaxText",     L"Text",
-    L"FuenteEtic",     L"Fuente",        L"ColorLetra",     L"ColorLetraSobre",
-    L"ColorLetraE",    L"ColorLetraES",  L"ColorFondo",     L"ColorFondoSobre",
-    L"ColorFonTexto",  L"ColorFonTextoS", L"Tranca",        L"MouseIcon",   L"MousePointer",
-    L"ToolTipText",    L"BackStyle",     L"Separa",         L"Enabled",     L"TipoTexto",
-    L"Apariencia",     L"FocoVisible",   L"FocoConMouse",   L"TipoSombra",  L"SeparaBorde",
-    L"TipoLetra"};
+    L"AlinTBox",     L"AlinText",   L"Caption",         L"MaxText",         L"Text",
+    L"FuenteEtic",   L"Fuente",     L"ColorLetra",      L"ColorLetraSobre", L"ColorLetraE",
+    L"ColorLetraES", L"ColorFondo", L"ColorFondoSobre", L"ColorFonTexto",   L"ColorFonTextoS",
+    L"Tranca",       L"MouseIcon",  L"MousePointer",    L"ToolTipText",     L"BackStyle",
+    L"Separa",       L"Enabled",    L"TipoTexto",       L"Apariencia",      L"FocoVisible",
+    L"FocoConMouse", L"TipoSombra", L"SeparaBorde",     L"TipoLetra"};
 
 constexpr const wchar_t* DeSimples[] = {
-    L"AlinTBox",      L"AlinText",       L"MaxText",     L"Text",         L"Fuente",
-    L"ColorLetra",    L"ColorLetraSobre", L"ColorFondo", L"ColorFondoSobre",
-    L"ColorFonTexto", L"ColorFonTextoS", L"SelLength",   L"SelStart",     L"SelText",
-    L"Tranca",        L"MouseIcon",      L"MousePointer", L"ToolTipText", L"BackStyle",
-    L"SelecConFoco",  L"Separa",         L"Enabled",     L"TipoTexto",    L"Apariencia",
-    L"NavConEnter",   L"FocoVisible",    L"FocoConMouse", L"SeparaBorde", L"TipoLetra"};
+    L"AlinTBox",        L"AlinText",      L"MaxText",         L"Text",
+    L"Fuente",          L"ColorLetra",    L"ColorLetraSobre", L"ColorFondo",
+    L"ColorFondoSobre", L"ColorFonTexto", L"ColorFonTextoS",  L"SelLength",
+    L"SelStart",        L"SelText",       L"Tranca",          L"MouseIcon",
+    L"MousePointer",    L"ToolTipText",   L"BackStyle",       L"SelecConFoco",
+    L"Separa",          L"Enabled",       L"TipoTexto",       L"Apariencia",
+    L"NavConEnter",     L"FocoVisible",   L"FocoConMouse",    L"SeparaBorde",
+    L"TipoLetra"};
 
 } // namespace
 

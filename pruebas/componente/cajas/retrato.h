@@ -17,8 +17,7 @@ bool EsSimple(std::wstring_view clase);
 /// A text box out of the component file, not yet initialised by anybody.
 struct Caja {
     explicit Caja(const wchar_t* nombreDeClase)
-        : clase(nombreDeClase),
-          componente(anfitrion::Componente::DeFichero(RutaDelComponente())),
+        : clase(nombreDeClase), componente(anfitrion::Componente::DeFichero(RutaDelComponente())),
           objeto(Crear(componente, nombreDeClase)), despacho(objeto.Como<IDispatch>()) {}
 
     template <class T>

@@ -76,8 +76,8 @@ TEST_CASE("A handler may change or clear what was typed") {
     BancoQueEscribe b(CadaClase());
     b.alOcurrir = [](Evento& e) {
         if (e.nombre == L"TocoTecla")
-            Asignar(*e.argumentos[0], Variante(static_cast<short>(
-                                          Entero(*e.argumentos[0]) == 'x' ? 0 : 'z')));
+            Asignar(*e.argumentos[0],
+                    Variante(static_cast<short>(Entero(*e.argumentos[0]) == 'x' ? 0 : 'z')));
     };
     b.Escribir(L"axb");
     CHECK(b.Text() == L"zz");
@@ -174,18 +174,18 @@ TEST_CASE("A handler of any event may close the form under the key") {
     for (const std::string cual : {"PresTecla", "TocoTecla", "Change", "SoltoTecla"}) {
         Componente componente;
         {
-        BancoQueEscribe b(clase);
-        componente = b.componente;
-        b.alOcurrir = [&](Evento& e) {
-            if (Estrechar(e.nombre) == cual && b.boton)
-                b.forma->Quitar(*std::exchange(b.boton, nullptr));
-        };
-        Tecla('A', true);
-        b.Esperar();
-        Tecla('A', false);
-        b.Esperar();
-        CHECK(b.forma->Controles().empty());
-        b.sumidero = nullptr;
+            BancoQueEscribe b(clase);
+            componente = b.componente;
+            b.alOcurrir = [&](Evento& e) {
+                if (Estrechar(e.nombre) == cual && b.boton)
+                    b.forma->Quitar(*std::exchange(b.boton, nullptr));
+            };
+            Tecla('A', true);
+            b.Esperar();
+            Tecla('A', false);
+            b.Esperar();
+            CHECK(b.forma->Controles().empty());
+            b.sumidero = nullptr;
         }
         CHECK(componente.PuedeDescargarse());
     }

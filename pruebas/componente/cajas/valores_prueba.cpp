@@ -23,15 +23,30 @@ const wchar_t* CadaClase() {
 TEST_CASE("A new labelled text box reads back its first values") {
     const CajaNueva caja(Cada({L"Tbox", L"TBoxML"}));
     const std::pair<const wchar_t*, const char*> esperados[] = {
-        {L"AlinTBox", "0"},        {L"Separa", "3"},          {L"TipoSombra", "1"},
-        {L"SeparaBorde", "1"},     {L"TipoLetra", "0"},       {L"Apariencia", "1"},
-        {L"Enabled", "True"},      {L"FocoConMouse", "False"}, {L"FocoVisible", "False"},
-        {L"TipoTexto", "0"},       {L"Text", ""},             {L"Caption", ""},
-        {L"MaxText", "0"},         {L"AlinText", "0"},        {L"Tranca", "False"},
-        {L"BackStyle", "1"},       {L"MousePointer", "0"},    {L"MouseIcon", "Nothing"},
-        {L"ToolTipText", ""},      {L"ColorLetra", "-2147483640"},
-        {L"ColorLetraE", "-2147483640"},  {L"ColorFonTexto", "-2147483643"},
-        {L"ColorFonTextoS", "-2147483643"}, {L"ColorFondo", "-2147483633"},
+        {L"AlinTBox", "0"},
+        {L"Separa", "3"},
+        {L"TipoSombra", "1"},
+        {L"SeparaBorde", "1"},
+        {L"TipoLetra", "0"},
+        {L"Apariencia", "1"},
+        {L"Enabled", "True"},
+        {L"FocoConMouse", "False"},
+        {L"FocoVisible", "False"},
+        {L"TipoTexto", "0"},
+        {L"Text", ""},
+        {L"Caption", ""},
+        {L"MaxText", "0"},
+        {L"AlinText", "0"},
+        {L"Tranca", "False"},
+        {L"BackStyle", "1"},
+        {L"MousePointer", "0"},
+        {L"MouseIcon", "Nothing"},
+        {L"ToolTipText", ""},
+        {L"ColorLetra", "-2147483640"},
+        {L"ColorLetraE", "-2147483640"},
+        {L"ColorFonTexto", "-2147483643"},
+        {L"ColorFonTextoS", "-2147483643"},
+        {L"ColorFondo", "-2147483633"},
         {L"ColorFondoSobre", "-2147483633"}};
     for (const auto& [nombre, valor] : esperados) {
         INFO(anfitrion::Estrechar(nombre));
@@ -41,11 +56,17 @@ TEST_CASE("A new labelled text box reads back its first values") {
 
 TEST_CASE("A new plain text box reads back its first values") {
     const CajaNueva caja(Cada({L"TboxSS", L"TboxSSML"}));
-    const std::pair<const wchar_t*, const char*> esperados[] = {
-        {L"AlinTBox", "7"},      {L"Separa", "0"},         {L"SeparaBorde", "1"},
-        {L"BackStyle", "0"},     {L"SelecConFoco", "True"}, {L"NavConEnter", "True"},
-        {L"FocoVisible", "False"}, {L"SelStart", "0"},     {L"SelLength", "0"},
-        {L"SelText", ""},        {L"ColorFonTextoS", "12648384"}};
+    const std::pair<const wchar_t*, const char*> esperados[] = {{L"AlinTBox", "7"},
+                                                                {L"Separa", "0"},
+                                                                {L"SeparaBorde", "1"},
+                                                                {L"BackStyle", "0"},
+                                                                {L"SelecConFoco", "True"},
+                                                                {L"NavConEnter", "True"},
+                                                                {L"FocoVisible", "False"},
+                                                                {L"SelStart", "0"},
+                                                                {L"SelLength", "0"},
+                                                                {L"SelText", ""},
+                                                                {L"ColorFonTextoS", "12648384"}};
     for (const auto& [nombre, valor] : esperados) {
         INFO(anfitrion::Estrechar(nombre));
         CHECK(caja.Valor(nombre) == valor);
@@ -166,7 +187,8 @@ TEST_CASE("The two methods can be called by name, and the plain pair has no capt
     CHECK(anfitrion::Tiene(caja.get(), L"SelText") == EsSimple(caja.clase));
 }
 
-TEST_CASE("The multi-line labelled text box names no property pages, the others the platform's two") {
+TEST_CASE(
+    "The multi-line labelled text box names no property pages, the others the platform's two") {
     const CajaNueva caja(CadaClase());
     const auto paginas = caja.Como<ISpecifyPropertyPages>();
     if (caja.clase == L"TBoxML") {

@@ -32,6 +32,17 @@ struct BancoDeColores : BancoDeCaja {
     }
 };
 
+/// Adds the text of one record of a metafile.
+int CALLBACK Juntar(HDC, HANDLETABLE*, const ENHMETARECORD* r, int, LPARAM salida) {
+    if (r->iType == EMR_EXTTEXTOUTW) {
+        const auto& t = reinterpret_cast<const EMREXTTEXTOUTW*>(r)->emrtext;
+        const auto* letras =
+            reinterpret_cast<const wchar_t*>(reinterpret_cast<const char*>(r) + t.offString);
+        reinterpret_cast<std::wstring*>(salida)->append(letras, t.nChars);
+    }
+    return 1;
+}
+
 const wchar_t* CadaClase() {
     return Cada({L"Pincela.Tbox", L"Pincela.TBoxML", L"Pincela.TboxSS", L"Pincela.TboxSSML"});
 }
@@ -66,18 +77,7 @@ TEST_CASE("A metafile of the control holds the text as text") {
     STGMEDIUM medio{};
     REQUIRE(b.boton->Como<IDataObject>()->GetData(&formato, &medio) == S_OK);
     std::wstring escrito;
-    EnumEnhMetaFile(
-        nullptr, medio.hEnhMetaFile,
-        [](HDC, HANDLETABLE*, const ENHMETARECORD* r, int, LPARAM salida) -> int {
-            if (r->iType == EMR_EXTTEXTOUTW) {
-                const auto& t = reinterpret_cast<const EMREXTTEXTOUTW*>(r)->emrtext;
-                const auto* letras = reinterpret_cast<const wchar_t*>(
-                    reinterpret_cast<const char*>(r) + t.offString);
-                reinterpret_cast<std::wstring*>(salida)->append(letras, t.nChars);
-            }
-            return 1;
-        },
-        &escrito, nullptr);
+    EnumEnhMetaFile(nullptr, medio.hEnhMetaFile, Juntar, &escrito, nullptr);
     ReleaseStgMedium(&medio);
     CHECK(escrito.find(L"XXXXXXXX") != std::wstring::npos);
 }
