@@ -16,6 +16,8 @@ Texto DescripcionDe(NumeroError numero) {
         return u"División por cero";
     case NumeroError::TiposNoCoinciden:
         return u"No coinciden los tipos";
+    case NumeroError::PermisoDenegado:
+        return u"Permiso denegado";
     case NumeroError::NuloNoValido:
         return u"Uso no válido de Null";
     case NumeroError::LlamadaInterna:

@@ -15,6 +15,7 @@ enum class NumeroError : std::int32_t {
     Subindice = 9,
     DivisionPorCero = 11,
     TiposNoCoinciden = 13,
+    PermisoDenegado = 70,
     NuloNoValido = 94,
     LlamadaInterna = 97,
     ValorDePropiedad = 380,

@@ -89,7 +89,8 @@ inline constexpr DatosClase DatosTBoxML = {.nombre = L"TBoxML",
                                            .genero = Genero::Control,
                                            .mapaDeBits = 30000,
                                            .rasgosOle = detalle::RasgosDeControl,
-                                           .tamanio = {160, 80}};
+                                           .tamanio = {160, 80},
+                                           .disponible = true};
 inline constexpr DatosClase DatosBotonazo = {
     .nombre = L"Botonazo",
     .clase = "{4F01CAAB-E98C-4DD8-A111-A79CD4A6F307}"_guid,
@@ -110,7 +111,8 @@ inline constexpr DatosClase DatosTboxSSML = {
     .mapaDeBits = 30002,
     .paginas = detalle::PaginasDeTexto,
     .rasgosOle = detalle::RasgosDeControl,
-    .tamanio = {160, 64}};
+    .tamanio = {160, 64},
+    .disponible = true};
 inline constexpr DatosClase DatosTbox = {.nombre = L"Tbox",
                                          .clase = "{0AEE3F22-BBD7-4E09-8F90-BDC5FA6F7A36}"_guid,
                                          .interfaz = "{BD7ECBDA-EED1-409E-BDF7-40E59320B6E6}"_guid,
@@ -119,7 +121,8 @@ inline constexpr DatosClase DatosTbox = {.nombre = L"Tbox",
                                          .mapaDeBits = 30003,
                                          .paginas = detalle::PaginasDeTexto,
                                          .rasgosOle = detalle::RasgosDeControl,
-                                         .tamanio = {160, 48}};
+                                         .tamanio = {160, 48},
+                                         .disponible = true};
 inline constexpr DatosClase DatosTboxSS = {.nombre = L"TboxSS",
                                            .clase = "{5BED868B-9421-4721-AC7B-336ABB6C8B50}"_guid,
                                            .interfaz =
@@ -129,7 +132,8 @@ inline constexpr DatosClase DatosTboxSS = {.nombre = L"TboxSS",
                                            .mapaDeBits = 30004,
                                            .paginas = detalle::PaginasDeTexto,
                                            .rasgosOle = detalle::RasgosDeControl,
-                                           .tamanio = {120, 24}};
+                                           .tamanio = {120, 24},
+                                           .disponible = true};
 inline constexpr DatosClase DatosArea = {.nombre = L"Area",
                                          .clase = "{E8ED987E-24A6-44AE-89AE-A75346F5939A}"_guid,
                                          .interfaz = "{5D6020B6-8386-4208-B342-2435CD642F99}"_guid,

@@ -32,6 +32,14 @@ Creador CreadorDe(REFCLSID clase) {
     if (clase == DatosProPColoresArea.clase)
         return &CrearPagina<TablaProPColoresArea, DatosProPColoresArea, TablaArea, DatosArea,
                             DisenoColoresArea>;
+    if (clase == DatosTbox.clase)
+        return &CrearControl<TablaTbox, DatosTbox>;
+    if (clase == DatosTBoxML.clase)
+        return &CrearControl<TablaTBoxML, DatosTBoxML>;
+    if (clase == DatosTboxSS.clase)
+        return &CrearControl<TablaTboxSS, DatosTboxSS>;
+    if (clase == DatosTboxSSML.clase)
+        return &CrearControl<TablaTboxSSML, DatosTboxSSML>;
     return nullptr;
 }
 

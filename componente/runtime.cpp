@@ -12,6 +12,7 @@ using pincela::NumeroError;
 
 namespace std {
 
+// Every one of that family: the linker takes the library's own together or not at all.
 void __throw_bad_alloc() {
     throw bad_alloc();
 }
@@ -24,17 +25,41 @@ void __throw_length_error(const char*) {
 void __throw_bad_cast() {
     throw bad_cast();
 }
-void __throw_out_of_range(const char*) {
-    Lanzar(NumeroError::Subindice);
+void __throw_bad_typeid() {
+    throw bad_cast();
 }
-void __throw_out_of_range_fmt(const char*, ...) {
+void __throw_bad_exception() {
+    Lanzar(NumeroError::LlamadaNoValida);
+}
+void __throw_bad_function_call() {
+    Lanzar(NumeroError::LlamadaNoValida);
+}
+void __throw_out_of_range(const char*) {
     Lanzar(NumeroError::Subindice);
 }
 void __throw_logic_error(const char*) {
     Lanzar(NumeroError::LlamadaNoValida);
 }
-void __throw_bad_function_call() {
+void __throw_domain_error(const char*) {
     Lanzar(NumeroError::LlamadaNoValida);
+}
+void __throw_invalid_argument(const char*) {
+    Lanzar(NumeroError::LlamadaNoValida);
+}
+void __throw_runtime_error(const char*) {
+    Lanzar(NumeroError::LlamadaNoValida);
+}
+void __throw_range_error(const char*) {
+    Lanzar(NumeroError::Desbordamiento);
+}
+void __throw_overflow_error(const char*) {
+    Lanzar(NumeroError::Desbordamiento);
+}
+void __throw_underflow_error(const char*) {
+    Lanzar(NumeroError::Desbordamiento);
+}
+void __throw_out_of_range_fmt(const char*, ...) {
+    Lanzar(NumeroError::Subindice);
 }
 
 } // namespace std

@@ -48,8 +48,8 @@ FuenteGdi CrearFuenteGdi(double puntos, int peso) {
                                  DEFAULT_PITCH | FF_SWISS, L"Arial"));
 }
 
-Lamina::Lamina()
-    : titular_(CrearFuenteGdi(18, FW_BOLD)), titulo_(CrearFuenteGdi(10, FW_BOLD)),
+Lamina::Lamina(const Hoja& hoja)
+    : hoja_(hoja), titular_(CrearFuenteGdi(18, FW_BOLD)), titulo_(CrearFuenteGdi(10, FW_BOLD)),
       texto_(CrearFuenteGdi(9, FW_NORMAL)) {}
 
 void Lamina::PintarTarjeta(HDC hdc, const RECT& lugar, const wchar_t* titulo) const {
@@ -66,6 +66,10 @@ void Lamina::PintarTarjeta(HDC hdc, const RECT& lugar, const wchar_t* titulo) co
     Escribir(hdc, titulo, renglon, titulo_, ColorTitulo, DT_LEFT);
 }
 
+void Lamina::PintarNota(HDC hdc, const RECT& lugar, const wchar_t* texto) const {
+    Escribir(hdc, texto, Escalar(lugar), texto_, ColorNota, DT_LEFT);
+}
+
 void Lamina::PintarCabeceras(HDC hdc, const Grupo& grupo) const {
     for (int i = 0; i < grupo.columnas && grupo.cabeceras[i]; ++i) {
         RECT r = Escalar(LugarDeMuestra(grupo, i));
@@ -75,24 +79,17 @@ void Lamina::PintarCabeceras(HDC hdc, const Grupo& grupo) const {
     }
 }
 
-void Lamina::PintarBase(HDC hdc, const RECT& cliente, const Leyendas& leyendas) const {
-    Llenar(hdc, cliente, ColorLamina);
-    Escribir(hdc, leyendas.titular, Escalar({24, 18, 300, 50}), titular_, ColorTitular, DT_LEFT);
-    Escribir(hdc, leyendas.lema, Escalar({160, 22, 700, 52}), texto_, ColorNota, DT_LEFT);
-    PintarTarjeta(hdc, TarjetaEventos, L"Eventos");
-    Escribir(hdc, leyendas.pie, Escalar({24, 668, 956, 696}), texto_, ColorNota, DT_LEFT);
-}
-
 void Lamina::Pintar(HDC hdc, const RECT& cliente) const {
-    PintarBase(hdc, cliente,
-               {L"Botonazo", L"Galería de Pincela: un botón, muchas caras",
-                L"Tabulador recorre los botones, Espacio o Entrar los pulsa, Alt y la letra "
-                L"subrayada también."});
-    for (const Grupo& grupo : GruposDeBotones) {
+    Llenar(hdc, cliente, ColorLamina);
+    Escribir(hdc, hoja_.titular, Escalar({24, 10, 500, 42}), titular_, ColorTitular, DT_LEFT);
+    Escribir(hdc, hoja_.subtitulo, Escalar({24, 44, 500, 64}), texto_, ColorNota, DT_LEFT);
+    for (const Grupo& grupo : hoja_.grupos) {
         PintarTarjeta(hdc, {grupo.x, grupo.y, grupo.x + grupo.ancho, grupo.y + grupo.alto},
                       grupo.titulo);
         PintarCabeceras(hdc, grupo);
     }
+    PintarTarjeta(hdc, TarjetaEventos, L"Eventos");
+    Escribir(hdc, hoja_.pie, Escalar({24, 668, 956, 696}), texto_, ColorNota, DT_LEFT);
 }
 
 } // namespace galeria

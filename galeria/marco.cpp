@@ -1,9 +1,7 @@
 #include "galeria/marco.h"
 
-#include "anfitrion/imagenes.h"
 #include "galeria/escala.h"
 #include "galeria/lamina.h"
-#include "galeria/valores.h"
 
 #include <commctrl.h>
 
@@ -24,17 +22,6 @@ OpcionesFormulario OpcionesDelMarco() {
 }
 
 } // namespace
-
-OpcionesFormulario OpcionesDePagina(HWND padre) {
-    OpcionesFormulario opciones;
-    opciones.padre = padre;
-    opciones.ancho = Escala(AnchoPagina);
-    opciones.alto = Escala(AltoPagina);
-    opciones.visible = false;
-    opciones.ambiente.fuente = CrearFuente(Tipografia, 9);
-    opciones.ambiente.colorFondo = ColorTarjeta;
-    return opciones;
-}
 
 Marco::Marco()
     : forma_(OpcionesDelMarco()),
@@ -72,6 +59,7 @@ void Marco::Agregar(const wchar_t* titulo, std::unique_ptr<Pagina> pagina) {
                        static_cast<DWORD>(GetWindowLongW(Ventana(), GWL_EXSTYLE)));
     SetWindowPos(Ventana(), nullptr, 0, 0, Ancho(marco), Alto(marco),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    pagina->Armar();
     paginas_.push_back(std::move(pagina));
 }
 

@@ -273,6 +273,9 @@ constexpr Grupo Grupos[] = {
 
 } // namespace
 
-constinit const std::span<const Grupo> GruposDeBotones = Grupos;
+constinit const Hoja HojaDeBotones{
+    L"Botonazo", L"Galería de Pincela: un botón, muchas caras",
+    L"Tabulador recorre los botones, Espacio o Entrar los pulsa, Alt y la letra subrayada también.",
+    Grupos};
 
 } // namespace galeria

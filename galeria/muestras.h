@@ -1,5 +1,5 @@
-// What the page of buttons shows: one table per group, each sample a list of keys and values that
-// the button loads from its property bag.
+// What the pages show: one table per group, each sample a list of keys and values that the control
+// loads from its property bag.
 #pragma once
 
 #include <array>
@@ -40,13 +40,14 @@ struct Par {
     Valor valor;
 };
 
-/// One button. Its own pairs come after those of its group.
+/// One control. Its own pairs come after those of its group.
 struct Muestra {
-    const wchar_t* titulo;
+    const wchar_t* titulo; ///< its caption; null for classes without one, empty: the place stays free
     std::array<Par, 10> pares;
+    const wchar_t* clase = nullptr; ///< null for that of the group
 };
 
-/// A card of the page: heading and a grid of buttons.
+/// A card of the page: heading and a grid of controls.
 struct Grupo {
     const wchar_t* titulo;
     int x, y, ancho, alto; ///< at 96 dpi
@@ -54,8 +55,19 @@ struct Grupo {
     std::array<const wchar_t*, 5> cabeceras; ///< over the columns; null when the card has none
     std::array<Par, 8> comunes;
     std::span<const Muestra> muestras;
+    const wchar_t* clase = L"Botonazo";
 };
 
-extern const std::span<const Grupo> GruposDeBotones;
+/// A page of the gallery: what stands above and below its cards, and the cards.
+struct Hoja {
+    const wchar_t* titular;
+    const wchar_t* subtitulo;
+    const wchar_t* pie;
+    std::span<const Grupo> grupos;
+};
+
+extern const Hoja HojaDeBotones;
+extern const Hoja HojaDeCajas;
+extern const Hoja HojaDePaneles;
 
 } // namespace galeria

@@ -3,6 +3,7 @@
 #include "anfitrion/captura.h"
 #include "galeria/marco.h"
 #include "galeria/pagina_botones.h"
+#include "galeria/pagina_cajas.h"
 #include "galeria/pagina_paneles.h"
 
 #include <commctrl.h>
@@ -36,13 +37,14 @@ constexpr struct {
     std::unique_ptr<galeria::Pagina> (*hacer)(const std::optional<Componente>&, HWND);
 } Paginas[] = {
     {L"botones", L"Botones", &HacerPagina<galeria::PaginaBotones>},
+    {L"cajas", L"Cajas de texto", &HacerPagina<galeria::PaginaCajas>},
     {L"paneles", L"Paneles", &HacerPagina<galeria::PaginaPaneles>},
 };
 
 constexpr wchar_t Uso[] = L"galeria [--ocx FICHERO] [--pagina NOMBRE] [--captura FICHERO.png] "
                           L"[--vacia]\n"
                           L"  --ocx      usa ese componente en vez del registrado\n"
-                          L"  --pagina   empieza por esa página: botones, paneles\n"
+                          L"  --pagina   empieza por esa página: botones, cajas, paneles\n"
                           L"  --captura  escribe en PNG las páginas, o la que se pide, y termina\n"
                           L"  --vacia    muestra la lámina sin controles\n";
 
@@ -80,7 +82,7 @@ void Avisar(const std::wstring& texto, bool caja) {
 std::wstring Explicar(const FalloCom& fallo, const Ordenes& ordenes) {
     wchar_t numero[16];
     wsprintfW(numero, L"0x%08X", static_cast<unsigned>(fallo.estado));
-    if (fallo.estado == REGDB_E_CLASSNOTREG)
+    if (fallo.estado == REGDB_E_CLASSNOTREG || fallo.estado == CO_E_CLASSSTRING)
         return L"El componente Pincela.ocx no está registrado en este equipo.\n"
                L"Regístrelo con «regsvr32 Pincela.ocx» o indique dónde está con "
                L"«galeria --ocx RUTA\\Pincela.ocx».";

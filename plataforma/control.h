@@ -26,6 +26,8 @@ class ControlUsuario : public OyenteRaton, public OyenteTeclado {
     virtual void Show() {}
     /// Whether the control takes the focus that a click or the tab order offers it now.
     virtual bool AceptaFoco() const { return true; }
+    /// Whether Enter means something to the control itself, before any default button.
+    virtual bool ComeEnter() const { return false; }
     virtual void EnterFocus() {}
     virtual void ExitFocus() {}
     /// An access key of the control was pressed in the container.

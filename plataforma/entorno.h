@@ -36,6 +36,8 @@ class Entorno {
 
     /// Tells the container that the property with this key changed and marks the control dirty.
     virtual void PropertyChanged(VistaTexto clave) = 0;
+    /// Asks the container whether the property with this key may change now.
+    virtual bool CanPropertyChange(VistaTexto /*clave*/) { return true; }
 
     // Ambient properties of the container; the usual defaults where it offers none.
     virtual Fuente AmbientFont() = 0;

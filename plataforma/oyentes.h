@@ -33,6 +33,8 @@ class OyenteTeclado {
 class OyenteEdicion : public OyenteRaton, public OyenteTeclado {
   public:
     virtual void Change() {}
+    /// The user is about to change the text; false keeps it as it is.
+    virtual bool PideEditar() { return true; }
     virtual void GotFocus() {}
     virtual void LostFocus() {}
 

@@ -11,6 +11,7 @@ CajaBase::CajaBase(Entorno& entorno) : entorno_(entorno) {}
 CajaBase::~CajaBase() = default;
 
 void CajaBase::CrearCampo(bool multilinea) {
+    multilinea_ = multilinea;
     txtTexto = entorno_.CrearCajaTexto(multilinea);
     txtTexto->PonOyente(&oido_);
 }
@@ -63,6 +64,14 @@ void CajaBase::MouseMove(std::int16_t Button, std::int16_t Shift, float X, float
     // Whoever was told of the focus may have ended or disabled the control.
     if (m_Enabled && !terminado_)
         eventos.MouseMove(Button, Shift, X, Y);
+}
+
+void CajaBase::AmbientFontChanged(const AtributosFuente& anterior, const Fuente& nueva) {
+    const Fuente propia = txtTexto->Font();
+    if (!nueva || (propia && propia->Atributos() != anterior))
+        return;
+    txtTexto->PonFont(nueva);
+    AjustarTexto();
 }
 
 void CajaBase::EnfocarConMouse() {

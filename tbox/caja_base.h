@@ -110,6 +110,8 @@ class CajaBase : public ControlUsuario {
     void Click() override;
     void MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
     void MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y) override;
+    bool ComeEnter() const override { return multilinea_; }
+    void AmbientFontChanged(const AtributosFuente& anterior, const Fuente& nueva) override;
 
   protected:
     explicit CajaBase(Entorno& entorno);
@@ -132,6 +134,8 @@ class CajaBase : public ControlUsuario {
     // What the edit field tells.
     virtual void GotFocus() = 0;
     virtual void LostFocus() = 0;
+    /// Whether the text may change; asked before the user changes it and before an assignment.
+    virtual bool PuedeEditarse() { return true; }
     /// The text changed, and not by an assignment.
     virtual void TextoEditado() {}
     /// A character passed the filter and is about to be told.
@@ -168,6 +172,7 @@ class CajaBase : public ControlUsuario {
         void KeyPress(std::int16_t& caracter) override;
         void KeyUp(std::int16_t& codigo, std::int16_t shift) override;
         void Change() override;
+        bool PideEditar() override { return caja_.PuedeEditarse(); }
         void GotFocus() override { caja_.GotFocus(); }
         void LostFocus() override { caja_.LostFocus(); }
 
@@ -177,6 +182,7 @@ class CajaBase : public ControlUsuario {
 
     Oido oido_{*this};
     bool asignandoTexto_ = false;
+    bool multilinea_ = false;
 };
 
 } // namespace pincela

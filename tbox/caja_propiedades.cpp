@@ -1,5 +1,6 @@
 // What every assignment does, in order.
 #include "common/al_salir.h"
+#include "common/errores.h"
 #include "tbox/caja_base.h"
 
 #include <utility>
@@ -48,6 +49,8 @@ Texto CajaBase::Text() const {
 }
 
 void CajaBase::PonText(Texto valor) {
+    if (!m_Cargando && !PuedeEditarse())
+        Lanzar(NumeroError::PermisoDenegado);
     {
         // A handler of the change may assign a text of its own.
         const bool anidada = std::exchange(asignandoTexto_, true);

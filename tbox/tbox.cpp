@@ -55,6 +55,17 @@ void Tbox::InitProperties() {
     PonEnabled(true);
 }
 
+// Caption and field each follow the container's font as long as they have it.
+void Tbox::AmbientFontChanged(const AtributosFuente& anterior, const Fuente& nueva) {
+    const Fuente propia = lblTexto->Font();
+    if (nueva && (!propia || propia->Atributos() == anterior)) {
+        lblTexto->PonFont(nueva);
+        lblSombra->PonFont(nueva);
+        AjustarTexto();
+    }
+    CajaBase::AmbientFontChanged(anterior, nueva);
+}
+
 void Tbox::Terminate() {
     CajaBase::Terminate();
     Timer->PonEnabled(false);

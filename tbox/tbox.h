@@ -42,6 +42,7 @@ class Tbox : public CajaBase {
     void WriteProperties(BolsaPropiedades& bolsa) override;
     void Terminate() override;
     void AccessKeyPress(std::int16_t caracter) override;
+    void AmbientFontChanged(const AtributosFuente& anterior, const Fuente& nueva) override;
     void Click() override;
 
   protected:

@@ -157,7 +157,11 @@ void TboxSS::LostFocus() {
     ActualizarColores(false);
 }
 
-// A container that binds the text learns of what was typed.
+// A container that binds the text may keep it as it is, and learns of what was typed.
+bool TboxSS::PuedeEditarse() {
+    return entorno_.CanPropertyChange(u"Text");
+}
+
 void TboxSS::TextoEditado() {
     entorno_.PropertyChanged(u"Text");
 }

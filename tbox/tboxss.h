@@ -37,6 +37,7 @@ class TboxSS : public CajaBase {
     void InitProperties() override;
     void ReadProperties(BolsaPropiedades& bolsa) override;
     void WriteProperties(BolsaPropiedades& bolsa) override;
+    bool ComeEnter() const override { return m_NavConEnter || CajaBase::ComeEnter(); }
     void EnterFocus() override;
     void ExitFocus() override;
 
@@ -44,6 +45,7 @@ class TboxSS : public CajaBase {
     void Entrar() override;
     void GotFocus() override;
     void LostFocus() override;
+    bool PuedeEditarse() override;
     void TextoEditado() override;
     void TeclaAceptada(std::int16_t caracter) override;
 

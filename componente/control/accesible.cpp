@@ -16,6 +16,8 @@ long EstadoAccesible(const Accesible& d, bool conFoco) {
         estado |= STATE_SYSTEM_PRESSED;
     if (d.bajoElRaton)
         estado |= STATE_SYSTEM_HOTTRACKED;
+    if (d.trancado)
+        estado |= STATE_SYSTEM_READONLY;
     return estado;
 }
 
@@ -97,8 +99,17 @@ HRESULT ObjetoAccesible::get_accRole(VARIANT hijo, VARIANT* papel) {
     if (FAILED(estado))
         return estado;
     V_VT(papel) = VT_I4;
-    V_I4(papel) = fuente_.describir().papel == Accesible::Papel::Grupo ? ROLE_SYSTEM_GROUPING
-                                                                       : ROLE_SYSTEM_PUSHBUTTON;
+    switch (fuente_.describir().papel) {
+    case Accesible::Papel::Grupo:
+        V_I4(papel) = ROLE_SYSTEM_GROUPING;
+        break;
+    case Accesible::Papel::Campo:
+        V_I4(papel) = ROLE_SYSTEM_TEXT;
+        break;
+    default:
+        V_I4(papel) = ROLE_SYSTEM_PUSHBUTTON;
+        break;
+    }
     return S_OK;
 }
 
@@ -203,8 +214,9 @@ HRESULT Nada(BSTR* salida) {
 
 } // namespace
 
-HRESULT ObjetoAccesible::get_accValue(VARIANT, BSTR* valor) {
-    return Nada(valor);
+HRESULT ObjetoAccesible::get_accValue(VARIANT hijo, BSTR* valor) {
+    return Texto(
+        hijo, valor, [](const Accesible& a) -> auto& { return a.valor; });
 }
 HRESULT ObjetoAccesible::get_accDescription(VARIANT, BSTR* texto) {
     return Nada(texto);

@@ -71,7 +71,8 @@ HRESULT ObjetoControl::GetControlInfo(CONTROLINFO* info) {
     info->hAccel = aceleradores_;
     info->cAccel =
         static_cast<USHORT>(aceleradores_ ? CopyAcceleratorTableW(aceleradores_, nullptr, 0) : 0);
-    info->dwFlags = 0;
+    comeEnter_ = Nucleo()->ComeEnter();
+    info->dwFlags = comeEnter_ ? CTRLINFO_EATS_RETURN : 0;
     return S_OK;
 }
 
@@ -135,16 +136,6 @@ HRESULT ObjetoControl::FreezeEvents(BOOL congelar) {
     else if (congelados_ > 0)
         --congelados_;
     return S_OK;
-}
-
-void ObjetoControl::EnviarTab() {
-    INPUT teclas[2] = {};
-    for (INPUT& tecla : teclas) {
-        tecla.type = INPUT_KEYBOARD;
-        tecla.ki.wVk = VK_TAB;
-    }
-    teclas[1].ki.dwFlags = KEYEVENTF_KEYUP;
-    SendInput(2, teclas, sizeof(INPUT));
 }
 
 void ObjetoControl::ErrorEnNotificacion(const ErrorEjecucion& error) noexcept {

@@ -69,6 +69,19 @@ const MiembroTardio* ObjetoControl::MiembroConNombre(VistaTexto nombre) const {
     return nullptr;
 }
 
+bool ObjetoControl::CanPropertyChange(VistaTexto clave) {
+    const MiembroTardio* miembro = MiembroConNombre(clave);
+    if (vida_ != Vida::Viva || cerrando_ || !miembro)
+        return true;
+    detalle::Sosten sosten(Identidad());
+    bool puede = true;
+    notificaciones_.ParaCadaUno([&](IUnknown* sumidero) {
+        auto* notificado = static_cast<IPropertyNotifySink*>(sumidero);
+        puede = puede && notificado->OnRequestEdit(miembro->dispid) != S_FALSE;
+    });
+    return puede;
+}
+
 void ObjetoControl::PropertyChanged(VistaTexto clave) {
     if (vida_ != Vida::Viva || cerrando_)
         return;
@@ -76,6 +89,8 @@ void ObjetoControl::PropertyChanged(VistaTexto clave) {
     // A key that no published property bears still tells that something changed.
     const MiembroTardio* miembro = MiembroConNombre(clave);
     AvisarCambio(miembro ? miembro->dispid : DISPID_UNKNOWN);
+    if (!cerrando_ && sitioDeControl_ && Nucleo()->ComeEnter() != comeEnter_)
+        Ptr<IOleControlSite>(sitioDeControl_)->OnControlInfoChanged();
 }
 
 } // namespace pincela::componente

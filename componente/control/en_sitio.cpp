@@ -108,8 +108,9 @@ HRESULT ObjetoControl::InPlaceDeactivate() {
 void ObjetoControl::OlvidarSitioEnSitio() {
     activoEnSitio_ = false;
     conFoco_ = false;
-    if (const Ptr<ObjetoAccesible> accesible = std::move(accesible_))
-        accesible->Desconectar();
+    for (auto* propio : {&accesible_, &accesibleDeCampo_})
+        if (const Ptr<ObjetoAccesible> accesible = std::move(*propio))
+            accesible->Desconectar();
     marco_.Soltar();
     documento_.Soltar();
     if (const Ptr<IOleInPlaceSite> sitio = std::move(enSitio_))
@@ -150,12 +151,55 @@ HRESULT ObjetoControl::ReactivateAndUndo() {
     return INPLACE_E_NOTUNDOABLE;
 }
 
+namespace {
+
+/// Keys with which a text is edited: containers have accelerators of the same names, which are not
+/// meant for a field that has the focus.
+bool EsDelCampo(const MSG& mensaje, bool comeEnter) {
+    if (mensaje.message != WM_KEYDOWN || GetKeyState(VK_MENU) < 0)
+        return false;
+    const bool control = GetKeyState(VK_CONTROL) < 0;
+    switch (mensaje.wParam) {
+    case VK_LEFT:
+    case VK_RIGHT:
+    case VK_UP:
+    case VK_DOWN:
+    case VK_HOME:
+    case VK_END:
+    case VK_PRIOR:
+    case VK_NEXT:
+    case VK_BACK:
+    case VK_DELETE:
+    case VK_INSERT:
+        return true;
+    case VK_RETURN:
+        return comeEnter;
+    case VK_TAB:
+    case 'A':
+    case 'C':
+    case 'V':
+    case 'X':
+    case 'Z':
+        return control;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 HRESULT ObjetoControl::TranslateAccelerator(MSG* mensaje) {
     if (!mensaje)
         return E_POINTER;
     return Guardar([&]() -> HRESULT {
-        // The control keeps nothing for itself: the container is asked first, what it does not
-        // want reaches the window as it always does.
+        if (entorno_.EsCampo(mensaje->hwnd) && !EntradaCongelada() &&
+            EsDelCampo(*mensaje, Nucleo()->ComeEnter())) {
+            TranslateMessage(mensaje);
+            DispatchMessageW(mensaje);
+            return S_OK;
+        }
+        // The control keeps nothing else for itself: the container is asked first, what it does
+        // not want reaches the window as it always does.
         if (!sitioDeControl_)
             return S_FALSE;
         DWORD modificadores = 0;

@@ -64,6 +64,8 @@ bool ObjetoControl::Mensaje(HWND ventana, UINT mensaje, WPARAM w, LPARAM l, LRES
         }
         return false;
     case MensajeCambioDePpp:
+        if (ventana != entorno_.Ventana()) // an edit field follows its control
+            return false;
         PonPppDe(ventana);
         if (vida_ == Vida::Viva) {
             extension_ = AHimetric(entorno_.Tamano());
@@ -75,14 +77,57 @@ bool ObjetoControl::Mensaje(HWND ventana, UINT mensaje, WPARAM w, LPARAM l, LRES
     }
 }
 
+namespace {
+
+/// The platform's own object for a window; null where it makes none.
+Ptr<IAccessible> EstandarDe(HWND ventana) {
+    Ptr<IAccessible> estandar;
+    if (!Oleacc().resultado || !Oleacc().estandar ||
+        FAILED(Oleacc().estandar(ventana, OBJID_CLIENT, IID_IAccessible, estandar.RecibirVacio())))
+        return nullptr;
+    return estandar;
+}
+
+} // namespace
+
+// The platform describes its edit windows itself; only where it can't keep a name for one does the
+// control answer in its place.
+ObjetoAccesible* ObjetoControl::DarAccesibleDeCampo(HWND ventana) {
+    if (vida_ != Vida::Viva || entorno_.NombreDeCampo(ventana).empty())
+        return nullptr;
+    if (accesibleDeCampo_ && campoAccesible_ == ventana)
+        return accesibleDeCampo_.get();
+    Ptr<IAccessible> estandar = EstandarDe(ventana);
+    if (!estandar)
+        return nullptr;
+    if (accesibleDeCampo_)
+        accesibleDeCampo_->Desconectar();
+    campoAccesible_ = ventana;
+    const auto describir = [this, ventana] {
+        Accesible campo;
+        campo.papel = Accesible::Papel::Campo;
+        campo.nombre = entorno_.NombreDeCampo(ventana);
+        campo.habilitado = campo.enfocable = IsWindowEnabled(ventana) != FALSE;
+        campo.trancado = (GetWindowLongW(ventana, GWL_STYLE) & ES_READONLY) != 0;
+        campo.valor.resize(static_cast<std::size_t>(GetWindowTextLengthW(ventana)));
+        GetWindowTextW(ventana, reinterpret_cast<wchar_t*>(campo.valor.data()),
+                       static_cast<int>(campo.valor.size() + 1));
+        return campo;
+    };
+    accesibleDeCampo_ = Ptr<ObjetoAccesible>::Adoptar(new ObjetoAccesible(
+        std::move(estandar),
+        {describir, [ventana] { return GetFocus() == ventana; }, [] {}, [this] { PedirFoco(); }}));
+    return accesibleDeCampo_.get();
+}
+
 ObjetoAccesible* ObjetoControl::DarAccesible(HWND ventana) {
+    if (entorno_.EsCampo(ventana))
+        return DarAccesibleDeCampo(ventana);
     if (vida_ != Vida::Viva || Nucleo()->Describir().papel == Accesible::Papel::Ninguno)
         return nullptr;
     if (!accesible_) {
-        Ptr<IAccessible> estandar;
-        if (!Oleacc().resultado || !Oleacc().estandar ||
-            FAILED(
-                Oleacc().estandar(ventana, OBJID_CLIENT, IID_IAccessible, estandar.RecibirVacio())))
+        Ptr<IAccessible> estandar = EstandarDe(ventana);
+        if (!estandar)
             return nullptr;
         accesible_ = Ptr<ObjetoAccesible>::Adoptar(new ObjetoAccesible(
             std::move(estandar),

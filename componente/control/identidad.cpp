@@ -36,8 +36,9 @@ void ObjetoControl::Nacer(void* nucleo) {
 void ObjetoControl::Morir() {
     // A container that never closed the control releases it while the window still stands.
     cerrando_ = true;
-    if (accesible_)
-        accesible_->Desconectar();
+    for (const auto& accesible : {accesible_, accesibleDeCampo_})
+        if (accesible)
+            accesible->Desconectar();
     entorno_.Asociar(nullptr);
     entorno_.DestruirVentana();
     try {

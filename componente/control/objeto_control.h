@@ -190,6 +190,7 @@ class ObjetoControl : public IOleObject,
   private:
     // windows::SitioControl: what the environment asks
     void PropertyChanged(VistaTexto clave) override;
+    bool CanPropertyChange(VistaTexto clave) override;
     Fuente AmbientFont() override;
     bool UserMode() override;
     bool DisplayAsDefault() override;
@@ -199,6 +200,7 @@ class ObjetoControl : public IOleObject,
     void PedirFoco() override;
     void FocoCambiado(bool dentro) override;
     void EnviarTab() override;
+    void MoverFoco(bool atras) override;
     void ControlesContenidos(const std::function<void(ControlContenido&)>& visita) override;
     bool EntradaCongelada() override;
     ISimpleFrameSite* MarcoSimple() override { return marcoSimple_.get(); }
@@ -254,6 +256,7 @@ class ObjetoControl : public IOleObject,
     // Resolution and assistive programs: see entorno_visual.cpp.
     void PonPppDe(HWND ventana);
     ObjetoAccesible* DarAccesible(HWND ventana);
+    ObjetoAccesible* DarAccesibleDeCampo(HWND ventana);
 
     void AvisarVista();
     void AvisarCambio(DISPID dispid);
@@ -285,10 +288,13 @@ class ObjetoControl : public IOleObject,
 
     HACCEL aceleradores_ = nullptr;
     Texto teclasDeAcceso_;
+    bool comeEnter_ = false; // as the container was last told
 
     int porDefecto_ = -1; // -1 not asked yet
     std::optional<AtributosFuente> fuenteAmbiente_;
     Ptr<ObjetoAccesible> accesible_;
+    Ptr<ObjetoAccesible> accesibleDeCampo_;
+    HWND campoAccesible_ = nullptr; // whose object it is
     Accesible descrito_;
     long estadoDescrito_ = 0;
 

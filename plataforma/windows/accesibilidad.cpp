@@ -15,13 +15,14 @@ constexpr GUID PropiedadNombre = {
 
 } // namespace
 
-void NombrarVentana(HWND ventana, const Texto& nombre) {
+bool NombrarVentana(HWND ventana, const Texto& nombre) {
     PunteroCom<IAccPropServices> servicio;
     if (FAILED(::CoCreateInstance(Servicio, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
                                   servicio.RecibirVacio())))
-        return;
-    servicio->SetHwndPropStr(ventana, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
-                             PropiedadNombre, reinterpret_cast<const wchar_t*>(nombre.c_str()));
+        return false;
+    return SUCCEEDED(servicio->SetHwndPropStr(ventana, static_cast<DWORD>(OBJID_CLIENT),
+                                              CHILDID_SELF, PropiedadNombre,
+                                              reinterpret_cast<const wchar_t*>(nombre.c_str())));
 }
 
 } // namespace pincela::windows

@@ -7,7 +7,7 @@
 
 namespace pincela::windows {
 
-/// Names a window for assistive programs; without effect where the platform has no such service.
-void NombrarVentana(HWND ventana, const Texto& nombre);
+/// Names a window for assistive programs; false where the platform has no such service.
+bool NombrarVentana(HWND ventana, const Texto& nombre);
 
 } // namespace pincela::windows

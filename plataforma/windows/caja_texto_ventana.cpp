@@ -8,7 +8,10 @@
 #include "plataforma/windows/temporizador_windows.h"
 
 #include <commctrl.h>
+#include <imm.h>
 #include <windowsx.h>
+
+#include <utility>
 
 namespace pincela::windows {
 
@@ -25,7 +28,8 @@ bool EsDeRaton(UINT mensaje) {
 DWORD CajaTextoWindows::Estilo() const {
     constexpr DWORD alineaciones[] = {ES_LEFT, ES_RIGHT, ES_CENTER};
     return WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | alineaciones[alineacion_] |
-           (multilinea_ ? ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN : ES_AUTOHSCROLL) |
+           (multilinea_ ? ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL
+                        : ES_AUTOHSCROLL) |
            (bloqueada_ ? ES_READONLY : 0) | (apariencia_ == 1 ? 0 : WS_BORDER) |
            (habilitada_ ? 0 : WS_DISABLED);
 }
@@ -45,8 +49,8 @@ void CajaTextoWindows::CrearVentana() {
     ::SetWindowTextW(ventana_, reinterpret_cast<const wchar_t*>(texto_.c_str()));
     callada_ = false;
     ::SendMessageW(ventana_, EM_SETSEL, static_cast<WPARAM>(inicio_), inicio_ + largo_);
-    if (!nombre_.empty())
-        NombrarVentana(ventana_, nombre_);
+    anotada_ = false;
+    Nombrar();
     ::SetWindowSubclass(ventana_, &CajaTextoWindows::Procedimiento, Subclase,
                         reinterpret_cast<DWORD_PTR>(this));
 }
@@ -72,13 +76,37 @@ void CajaTextoWindows::Rehacer() {
     if (!vieja)
         return;
     const bool conFoco = EsActivo();
+    const LRESULT primera = ::SendMessageW(vieja, EM_GETFIRSTVISIBLELINE, 0, 0);
     SoltarVentana();
     CrearVentana();
+    DesplazarHasta(primera);
     callada_ = true;
     if (conFoco && ventana_)
         ::SetFocus(ventana_);
     callada_ = false;
     ::DestroyWindow(vieja);
+}
+
+/// Shows from this line on or, in a field of one line, from this character.
+void CajaTextoWindows::DesplazarHasta(LRESULT primera) {
+    if (!ventana_)
+        return;
+    if (multilinea_) {
+        const LRESULT ahora = ::SendMessageW(ventana_, EM_GETFIRSTVISIBLELINE, 0, 0);
+        ::SendMessageW(ventana_, EM_LINESCROLL, 0, primera - ahora);
+        return;
+    }
+    if (primera == 0)
+        return;
+    // The field follows its caret: to the end, and back to where it began.
+    const auto ir = [this](WPARAM desde, LPARAM hasta) {
+        ::SendMessageW(ventana_, EM_SETSEL, desde, hasta);
+        ::SendMessageW(ventana_, EM_SCROLLCARET, 0, 0);
+    };
+    const auto total = static_cast<LPARAM>(texto_.size());
+    ir(static_cast<WPARAM>(total), total);
+    ir(static_cast<WPARAM>(primera), primera);
+    ::SendMessageW(ventana_, EM_SETSEL, static_cast<WPARAM>(inicio_), inicio_ + largo_);
 }
 
 void CajaTextoWindows::Orden(WORD codigo) {
@@ -121,6 +149,8 @@ LRESULT CALLBACK CajaTextoWindows::Procedimiento(HWND ventana, UINT mensaje, WPA
 }
 
 LRESULT CajaTextoWindows::Recibir(UINT mensaje, WPARAM w, LPARAM l) noexcept {
+    if (std::exchange(directo_, false))
+        return ::DefSubclassProc(ventana_, mensaje, w, l);
     SitioControl& sitio = nucleo_.sitio;
     const Sosten sosten(sitio);
     const std::weak_ptr<const void> testigo = vida_;
@@ -130,9 +160,48 @@ LRESULT CajaTextoWindows::Recibir(UINT mensaje, WPARAM w, LPARAM l) noexcept {
     Proteger(sitio, [&] { terminado = sitio.Mensaje(ventana, mensaje, w, l, &resultado); });
     if (!terminado && !testigo.expired())
         Proteger(sitio, [&] { terminado = Procesar(mensaje, w, l, resultado); });
-    if (terminado || !::IsWindow(ventana))
+    if (terminado || testigo.expired())
         return resultado;
-    return ::DefSubclassProc(ventana, mensaje, w, l);
+    bool puede = true;
+    const bool pide = !editando_ && CambiaElTexto(mensaje, w, l);
+    if (pide && !Decir([&](OyenteEdicion& oyente) { puede = oyente.PideEditar(); }))
+        return resultado;
+    if (!puede || !ventana_)
+        return resultado;
+    editando_ = editando_ || pide;
+    if (ventana_ == ventana) {
+        resultado = ::DefSubclassProc(ventana, mensaje, w, l);
+    } else if (mensaje == WM_CHAR) {
+        // A handler changed what only a new window can show: the character goes there.
+        directo_ = true;
+        resultado = ::SendMessageW(ventana_, mensaje, w, l);
+    }
+    if (pide && !testigo.expired())
+        editando_ = false;
+    return resultado;
+}
+
+/// Whether the platform's handling of a message changes the text of a field that isn't locked.
+bool CajaTextoWindows::CambiaElTexto(UINT mensaje, WPARAM w, LPARAM l) const {
+    if (bloqueada_)
+        return false;
+    switch (mensaje) {
+    case WM_CHAR:
+        return w >= u' ' || w == VK_BACK || (w == VK_RETURN && multilinea_);
+    case WM_KEYDOWN:
+        return w == VK_DELETE;
+    case WM_IME_COMPOSITION:
+        return (l & GCS_RESULTSTR) != 0;
+    case WM_PASTE:
+    case WM_CUT:
+    case WM_CLEAR:
+    case WM_UNDO:
+    case EM_UNDO:
+    case EM_REPLACESEL:
+        return true;
+    default:
+        return false;
+    }
 }
 
 bool CajaTextoWindows::Procesar(UINT mensaje, WPARAM& w, LPARAM l, LRESULT& resultado) {
@@ -141,6 +210,11 @@ bool CajaTextoWindows::Procesar(UINT mensaje, WPARAM& w, LPARAM l, LRESULT& resu
         resultado = HTTRANSPARENT; // a designer drags the control by any part of it
         return mensaje == WM_NCHITTEST;
     }
+    if (EsTabulador(mensaje, w)) {
+        if (mensaje == WM_KEYDOWN)
+            nucleo_.sitio.MoverFoco(::GetKeyState(VK_SHIFT) < 0);
+        return true;
+    }
     switch (mensaje) {
     case WM_KEYDOWN:
     case WM_KEYUP:
@@ -148,14 +222,9 @@ bool CajaTextoWindows::Procesar(UINT mensaje, WPARAM& w, LPARAM l, LRESULT& resu
     case WM_SYSKEYUP:
     case WM_CHAR:
         return ProcesarTecla(mensaje, w);
-    case WM_GETDLGCODE: {
-        // Enter is the control's even where a dialog has a default button.
-        const auto* pendiente = reinterpret_cast<const MSG*>(l);
-        resultado = ::DefSubclassProc(ventana, mensaje, w, l);
-        if (pendiente && pendiente->wParam == VK_RETURN)
-            resultado |= DLGC_WANTMESSAGE;
+    case WM_GETDLGCODE:
+        resultado = CodigoDeDialogo(l);
         return true;
-    }
     case WM_SETFOCUS:
         resultado = ::DefSubclassProc(ventana, mensaje, w, l);
         if (!callada_ && FocoEntra(nucleo_))
@@ -184,12 +253,20 @@ bool CajaTextoWindows::Procesar(UINT mensaje, WPARAM& w, LPARAM l, LRESULT& resu
     }
 }
 
+// The platform's own answer would make a field of many lines take TAB and Escape from a dialog.
+LRESULT CajaTextoWindows::CodigoDeDialogo(LPARAM l) const {
+    const auto* pendiente = reinterpret_cast<const MSG*>(l);
+    const bool enter = pendiente && pendiente->wParam == VK_RETURN && nucleo_.control &&
+                       nucleo_.control->ComeEnter();
+    return DLGC_WANTCHARS | DLGC_HASSETSEL | DLGC_WANTARROWS | (enter ? DLGC_WANTMESSAGE : 0);
+}
+
 bool CajaTextoWindows::ProcesarTecla(UINT mensaje, WPARAM& w) {
     auto codigo = static_cast<std::int16_t>(w);
     const std::int16_t shift = ShiftActual();
     const HWND ventana = ventana_;
     const bool baja = mensaje == WM_KEYDOWN || mensaje == WM_SYSKEYDOWN;
-    Decir([&](OyenteEdicion& oyente) {
+    const bool vive = Decir([&](OyenteEdicion& oyente) {
         if (mensaje == WM_CHAR)
             oyente.KeyPress(codigo);
         else if (baja)
@@ -202,11 +279,28 @@ bool CajaTextoWindows::ProcesarTecla(UINT mensaje, WPARAM& w) {
         MSG letra; // the character of a dropped key is waiting already
         ::PeekMessageW(&letra, ventana, WM_CHAR, WM_CHAR, PM_REMOVE);
     }
-    if (codigo == 0)
+    if (codigo == 0 || !vive)
         return true;
+    if (mensaje == WM_KEYDOWN && multilinea_ && codigo == VK_TAB) {
+        // With CTRL, as here, the keyboard makes a character of it on some platforms only.
+        MSG letra;
+        ::PeekMessageW(&letra, ventana, WM_CHAR, WM_CHAR, PM_REMOVE);
+        ::SendMessageW(ventana, WM_CHAR, VK_TAB, 1);
+        return true;
+    }
+    if (mensaje != WM_CHAR)
+        return false;
+    if (multilinea_ && codigo == VK_TAB)
+        InsertarTabulador();
     // A single-line field has no use for these and would beep.
-    return mensaje == WM_CHAR && !(::GetWindowLongW(ventana, GWL_STYLE) & ES_MULTILINE) &&
-           (codigo == VK_RETURN || codigo == VK_TAB || codigo == VK_ESCAPE);
+    return codigo == VK_TAB || (!multilinea_ && (codigo == VK_RETURN || codigo == VK_ESCAPE));
+}
+
+// CTRL and TAB; the platform's field takes it or not, depending on what it believes to lie in.
+void CajaTextoWindows::InsertarTabulador() {
+    const bool cabe = maximo_ <= 0 || ::GetWindowTextLengthW(ventana_) - SelLength() < maximo_;
+    if (ventana_ && !bloqueada_ && cabe)
+        ::SendMessageW(ventana_, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"\t"));
 }
 
 void CajaTextoWindows::ProcesarRaton(UINT mensaje, WPARAM w, LPARAM l) {

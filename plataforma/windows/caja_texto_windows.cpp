@@ -203,8 +203,12 @@ void CajaTextoWindows::Repintar() {
 
 void CajaTextoWindows::PonNombreAccesible(const Texto& nombre) {
     nombre_ = nombre;
-    if (ventana_)
-        NombrarVentana(ventana_, nombre_);
+    Nombrar();
+}
+
+void CajaTextoWindows::Nombrar() {
+    if (ventana_ && (anotada_ || !nombre_.empty()))
+        anotada_ = NombrarVentana(ventana_, nombre_);
 }
 
 void CajaTextoWindows::Move(float izquierda, float arriba, float ancho, float alto) {
@@ -232,6 +236,22 @@ RECT CajaTextoWindows::Rectangulo() const {
     return {x, y, x + std::max(0, Redondo(lugar_.ancho)), y + std::max(0, Redondo(lugar_.alto))};
 }
 
+// A scroll bar at rest, with nothing to scroll.
+void CajaTextoWindows::DibujarBarra(const Destino& destino, RECT& campo) const {
+    RECT barra = campo;
+    barra.left =
+        std::max(campo.left, campo.right - Redondo(::GetSystemMetrics(SM_CXVSCROLL) * destino.sx));
+    const LONG boton = std::min<LONG>(Redondo(::GetSystemMetrics(SM_CYVSCROLL) * destino.sy),
+                                      (barra.bottom - barra.top) / 2);
+    Llenar(destino.dc, barra, ::GetSysColor(COLOR_SCROLLBAR));
+    RECT flecha{barra.left, barra.top, barra.right, barra.top + boton};
+    ::DrawFrameControl(destino.dc, &flecha, DFC_SCROLL, DFCS_SCROLLUP | DFCS_INACTIVE);
+    flecha.top = barra.bottom - boton;
+    flecha.bottom = barra.bottom;
+    ::DrawFrameControl(destino.dc, &flecha, DFC_SCROLL, DFCS_SCROLLDOWN | DFCS_INACTIVE);
+    campo.right = barra.left;
+}
+
 void CajaTextoWindows::Dibujar(const Destino& destino) const {
     if (destino.enVentana) // the edit window shows itself
         return;
@@ -246,6 +266,8 @@ void CajaTextoWindows::Dibujar(const Destino& destino) const {
         ::DrawEdge(dc, &r, EDGE_SUNKEN, BF_RECT | BF_ADJUST);
     else
         ::FrameRect(dc, &r, ::GetSysColorBrush(COLOR_WINDOWFRAME));
+    if (multilinea_)
+        DibujarBarra(destino, r);
     ::InflateRect(&r, -std::max(1, Redondo(2 * destino.sx)), -std::max(1, Redondo(destino.sy)));
     ::IntersectClipRect(dc, r.left, r.top, r.right, r.bottom);
     const AtributosFuente atributos = fuente_.Atributos();

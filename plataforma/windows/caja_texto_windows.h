@@ -57,6 +57,7 @@ class CajaTextoWindows final : public CajaTexto,
     void SoltarVentana() override;
     HWND ventana() const override { return ventana_; }
     bool Habilitado() const override { return habilitada_; }
+    Texto NombreAccesible() const override { return anotada_ ? Texto() : nombre_; }
     void Orden(WORD codigo) override;
     HBRUSH Colorear(HDC dc) override;
 
@@ -73,6 +74,9 @@ class CajaTextoWindows final : public CajaTexto,
     /// True when the message ends here; `w` may have changed for the platform's own handling.
     bool Procesar(UINT mensaje, WPARAM& w, LPARAM l, LRESULT& resultado);
     bool ProcesarTecla(UINT mensaje, WPARAM& w);
+    bool CambiaElTexto(UINT mensaje, WPARAM w, LPARAM l) const;
+    void InsertarTabulador();
+    LRESULT CodigoDeDialogo(LPARAM l) const;
     void ProcesarRaton(UINT mensaje, WPARAM w, LPARAM l);
     template <class Accion>
     bool Decir(Accion&& accion);
@@ -81,6 +85,9 @@ class CajaTextoWindows final : public CajaTexto,
     void PonFuenteEnVentana();
     void Repintar();
     void Rehacer();
+    void Nombrar();
+    void DesplazarHasta(LRESULT primera);
+    void DibujarBarra(const Destino& destino, RECT& campo) const;
     void Seleccionar(std::int32_t inicio, std::int32_t largo);
     RECT Rectangulo() const;
     DWORD Estilo() const;
@@ -91,7 +98,10 @@ class CajaTextoWindows final : public CajaTexto,
     std::shared_ptr<const void> vida_ = std::make_shared<char>();
 
     HWND ventana_ = nullptr;
-    bool callada_ = false; // changes of ours are not the user's
+    bool callada_ = false;  // changes of ours are not the user's
+    bool editando_ = false; // the listener has agreed to the change that is being made
+    bool directo_ = false;  // what arrives was told already, in the window before this one
+    bool anotada_ = false;  // the platform keeps the field's name
     bool izquierdoAbajo_ = false;
 
     // What the field holds while it has no window.

@@ -176,6 +176,14 @@ HWND EntornoWindows::VentanaDeFoco() const {
     return partes_->ventana.DeFoco();
 }
 
+bool EntornoWindows::EsCampo(HWND ventana) const {
+    return partes_->ventana.CampoDe(ventana) != nullptr;
+}
+Texto EntornoWindows::NombreDeCampo(HWND ventana) const {
+    const CampoEdicion* campo = partes_->ventana.CampoDe(ventana);
+    return campo ? campo->NombreAccesible() : Texto();
+}
+
 Superficie& EntornoWindows::superficie() {
     return partes_->superficie;
 }
@@ -205,6 +213,9 @@ std::unique_ptr<CajaTexto> EntornoWindows::CrearCajaTexto(bool multilinea) {
 void EntornoWindows::PropertyChanged(VistaTexto clave) {
     partes_->nucleo.sitio.PropertyChanged(clave);
 }
+bool EntornoWindows::CanPropertyChange(VistaTexto clave) {
+    return partes_->nucleo.sitio.CanPropertyChange(clave);
+}
 Fuente EntornoWindows::AmbientFont() {
     return partes_->nucleo.sitio.AmbientFont();
 }
@@ -227,14 +238,18 @@ void EntornoWindows::EnviarTab() {
     partes_->nucleo.sitio.EnviarTab();
 }
 
+// Keys stay in the queue: they come in order after the one that is being handled, and only the
+// container's own loop knows its accelerators and its way through the form.
 void EntornoWindows::DoEvents() {
-    MSG mensaje;
-    while (::PeekMessageW(&mensaje, nullptr, 0, 0, PM_REMOVE)) {
+    const auto pendiente = [](MSG& mensaje) {
+        return ::PeekMessageW(&mensaje, nullptr, 0, WM_KEYFIRST - 1, PM_REMOVE) ||
+               ::PeekMessageW(&mensaje, nullptr, WM_KEYLAST + 1, MAXUINT, PM_REMOVE);
+    };
+    for (MSG mensaje; pendiente(mensaje);) {
         if (mensaje.message == WM_QUIT) { // for the loop that runs below this one
             ::PostQuitMessage(static_cast<int>(mensaje.wParam));
             return;
         }
-        ::TranslateMessage(&mensaje);
         ::DispatchMessageW(&mensaje);
     }
 }

@@ -20,6 +20,7 @@ namespace pincela::windows {
 class SitioControl {
   public:
     virtual void PropertyChanged(VistaTexto clave) = 0;
+    virtual bool CanPropertyChange(VistaTexto clave) = 0;
     virtual Fuente AmbientFont() = 0;
     virtual bool UserMode() = 0;
     virtual bool DisplayAsDefault() = 0;
@@ -33,6 +34,8 @@ class SitioControl {
     /// The focus entered the window or one of its edit fields, or left all of them.
     virtual void FocoCambiado(bool dentro) = 0;
     virtual void EnviarTab() = 0;
+    /// TAB came down in a window of the control without its container having taken it.
+    virtual void MoverFoco(bool atras) = 0;
     virtual void ControlesContenidos(const std::function<void(ControlContenido&)>& visita) = 0;
     /// True when the container wants input to do nothing (design mode).
     virtual bool EntradaCongelada() = 0;
@@ -94,6 +97,10 @@ class EntornoWindows final : public Entorno {
     bool TieneFoco() const;
     /// The window that should get the focus when the control is UI-activated.
     HWND VentanaDeFoco() const;
+    /// Whether a window is one of the control's edit fields.
+    bool EsCampo(HWND ventana) const;
+    /// Name of an edit field for assistive programs; empty where the platform itself tells it.
+    Texto NombreDeCampo(HWND ventana) const;
 
     // Entorno
     Superficie& superficie() override;
@@ -105,6 +112,7 @@ class EntornoWindows final : public Entorno {
     std::unique_ptr<Linea> CrearLinea() override;
     std::unique_ptr<CajaTexto> CrearCajaTexto(bool multilinea) override;
     void PropertyChanged(VistaTexto clave) override;
+    bool CanPropertyChange(VistaTexto clave) override;
     Fuente AmbientFont() override;
     Fuente CrearFuente(const AtributosFuente& atributos) override;
     Color ColorReal(Color color) override;

@@ -28,4 +28,9 @@ bool FocoSale(Nucleo& nucleo, HWND siguiente) {
     return !testigo.expired();
 }
 
+bool EsTabulador(UINT mensaje, WPARAM w) {
+    return (mensaje == WM_KEYDOWN || mensaje == WM_CHAR) && w == VK_TAB &&
+           ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_MENU) >= 0;
+}
+
 } // namespace pincela::windows

@@ -11,4 +11,7 @@ bool FocoEntra(Nucleo& nucleo);
 /// A window of the control lost the focus to `siguiente`.
 bool FocoSale(Nucleo& nucleo, HWND siguiente);
 
+/// TAB, alone or with SHIFT, as a key or as its character: a step through the form.
+bool EsTabulador(UINT mensaje, WPARAM w);
+
 } // namespace pincela::windows

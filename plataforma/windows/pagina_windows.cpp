@@ -9,7 +9,6 @@
 #include <commdlg.h>
 
 #include <algorithm>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -112,7 +111,7 @@ std::size_t PaginaWindows::IndiceDe(VistaTexto nombre) const {
     for (std::size_t i = 0; i < diseno_.piezas.size(); ++i)
         if (diseno_.piezas[i].nombre == nombre)
             return i;
-    throw std::logic_error("a widget that is not in the layout");
+    Lanzar(NumeroError::LlamadaNoValida); // a widget that is not in the layout
 }
 
 template <class T>

@@ -155,6 +155,12 @@ bool VentanaSuperficie::Procesar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resu
         if (CampoEdicion* campo = CampoDe(reinterpret_cast<HWND>(l)))
             resultado = reinterpret_cast<LRESULT>(campo->Colorear(reinterpret_cast<HDC>(w)));
         return resultado != 0;
+    case WM_NEXTDLGCTL: // an edit field thinks that its parent is a dialog
+        if (LOWORD(l) == FALSE)
+            nucleo_.sitio.MoverFoco(w != 0);
+        return true;
+    case WM_CLOSE: // the same, for Escape: the window is the container's to close
+        return true;
     case WM_DESTROY:
         Perdida();
         return true;
@@ -192,6 +198,11 @@ bool VentanaSuperficie::ProcesarEntrada(UINT mensaje, WPARAM w, LPARAM l, LRESUL
 // The surface has no action of its own for a key, but system keys go on to the platform unless
 // the control dropped them.
 bool VentanaSuperficie::Tecla(UINT mensaje, WPARAM w) {
+    if (!nucleo_.campos.empty() && EsTabulador(mensaje, w)) {
+        if (mensaje == WM_KEYDOWN)
+            nucleo_.sitio.MoverFoco(::GetKeyState(VK_SHIFT) < 0);
+        return true;
+    }
     auto codigo = static_cast<std::int16_t>(w);
     const std::int16_t shift = ShiftActual();
     nucleo_.Notificar([&](ControlUsuario& control) {

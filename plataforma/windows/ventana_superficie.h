@@ -23,6 +23,8 @@ class VentanaSuperficie {
 
     /// The window that the focus belongs in: the first edit field that can have it.
     HWND DeFoco() const;
+    /// The edit field that a window belongs to; null for any other window.
+    CampoEdicion* CampoDe(HWND ventana) const;
 
   private:
     static LRESULT CALLBACK Procedimiento(HWND ventana, UINT mensaje, WPARAM w, LPARAM l) noexcept;
@@ -35,7 +37,6 @@ class VentanaSuperficie {
     bool PonPuntero(LPARAM l);
     void CambioDeTamano(SIZE tamano);
     void FocoRecibido();
-    CampoEdicion* CampoDe(HWND ventana) const;
     void Perdida();
 
     Nucleo& nucleo_;

@@ -287,6 +287,8 @@ void CajaGrabada::Teclear(std::int16_t caracter) {
     }
     if (nuevo == texto_ || (maximo_ > 0 && std::ssize(nuevo) > maximo_))
         return;
+    if (oyente && !oyente->PideEditar())
+        return;
     inicio_ = static_cast<std::int32_t>(donde) + (caracter == 8 ? (donde > 0 ? -1 : 0) : 1);
     largo_ = 0;
     texto_ = std::move(nuevo);

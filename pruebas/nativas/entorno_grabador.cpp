@@ -153,6 +153,11 @@ void EntornoGrabador::PropertyChanged(VistaTexto clave) {
         alCambiar(clave);
 }
 
+bool EntornoGrabador::CanPropertyChange(VistaTexto clave) {
+    registro.Anotar("Pide " + std::string(clave.begin(), clave.end()));
+    return cambiosPermitidos;
+}
+
 Color EntornoGrabador::ColorReal(Color color) {
     const auto hallado = coloresDeSistema.find(static_cast<std::uint32_t>(color.valor));
     return hallado == coloresDeSistema.end() ? color : hallado->second;

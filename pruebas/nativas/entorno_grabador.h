@@ -93,6 +93,7 @@ class EntornoGrabador : public Entorno {
     Fuente fuenteAmbiente = std::make_shared<FuenteGrabada>();
     bool modoUsuario = true;
     bool porDefecto = false;
+    bool cambiosPermitidos = true;
     std::vector<ContenidoGrabado> contenidos;
     /// What the system colours stand for: black letters on white, buttons of light grey.
     std::map<std::uint32_t, Color> coloresDeSistema{
@@ -156,6 +157,7 @@ class EntornoGrabador : public Entorno {
         return std::make_shared<FuenteGrabada>(atributos);
     }
     void PropertyChanged(VistaTexto clave) override;
+    bool CanPropertyChange(VistaTexto clave) override;
     Fuente AmbientFont() override { return fuenteAmbiente; }
     bool UserMode() override { return modoUsuario; }
     bool DisplayAsDefault() override { return porDefecto; }

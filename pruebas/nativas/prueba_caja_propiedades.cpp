@@ -133,6 +133,20 @@ TEST_CASE("a font is the same object in its part, told, and lays out again") {
     CHECK(p->c->FuenteTexto() == una);
 }
 
+TEST_CASE("fonts taken from the container follow it, each on its own, and are no change") {
+    auto p = NuevaCaja<Tbox>();
+    const AtributosFuente anterior = p->c->FuenteTexto()->Atributos();
+    p->c->PonFuenteEtic(Letra(u"Verdana"));
+    p->Tomar();
+    AtributosFuente otros = anterior;
+    otros.Size = 20;
+    const auto nueva = std::make_shared<FuenteGrabada>(otros);
+    p->c->AmbientFontChanged(anterior, nueva);
+    CHECK(p->c->FuenteTexto() == nueva);
+    CHECK(p->c->FuenteEtic()->Atributos().Name == u"Verdana");
+    CHECK(p->Tomar({"PC"}).empty());
+}
+
 TEST_CASE("no font is no value for a font") {
     auto p = NuevaCaja<Tbox>();
     constexpr int invalido = static_cast<int>(NumeroError::ValorDePropiedad);

@@ -108,14 +108,36 @@ TEST_CASE("the filter is the one of all text boxes") {
 TEST_CASE("what the user types is told as a change of the property, before the event") {
     auto p = NuevaCaja<TboxSS>();
     p->Teclear(u"a");
-    CHECK(p->Tomar() ==
-          Lineas{"evento TocoTecla 97", "DoEvents", "PC Text", "evento Change", "DoEvents"});
+    CHECK(p->Tomar() == Lineas{"evento TocoTecla 97", "DoEvents", "Pide Text", "PC Text",
+                               "evento Change", "DoEvents"});
+}
+
+TEST_CASE("a container that refuses a change keeps the text, typed or assigned") {
+    auto p = NuevaCaja<TboxSS>();
+    p->e.cambiosPermitidos = false;
+    p->Teclear(u"a");
+    CHECK(p->Tomar() == Lineas{"evento TocoTecla 97", "DoEvents", "Pide Text"});
+    CHECK(ErrorDe([&] { p->c->PonText(u"b"); }) == 70);
+    CHECK(p->c->Text().empty());
+}
+
+TEST_CASE("Enter is the control's own where it moves on or starts a line") {
+    auto una = NuevaCaja<TboxSS>();
+    CHECK(una->c->ComeEnter());
+    una->c->PonNavConEnter(false);
+    CHECK_FALSE(una->c->ComeEnter());
+    auto varias = NuevaCaja<TboxSSML>();
+    varias->c->PonNavConEnter(false);
+    CHECK(varias->c->ComeEnter());
+    CHECK_FALSE(NuevaCaja<Tbox>()->c->ComeEnter());
+    CHECK(NuevaCaja<TBoxML>()->c->ComeEnter());
 }
 
 TEST_CASE("an assignment is told once") {
     auto p = NuevaCaja<TboxSS>();
     p->c->PonText(u"a");
-    CHECK(p->Tomar() == Lineas{"txtTexto.Text \"a\"", "evento Change", "DoEvents", "PC Text"});
+    CHECK(p->Tomar() ==
+          Lineas{"Pide Text", "txtTexto.Text \"a\"", "evento Change", "DoEvents", "PC Text"});
 }
 
 TEST_CASE("keys are told on their way down and up, then the host attends to what is pending") {

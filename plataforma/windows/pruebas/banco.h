@@ -21,6 +21,7 @@ class SitioDePrueba final : public SitioControl {
     std::function<bool(UINT, LRESULT*)> alMensaje;
 
     void PropertyChanged(VistaTexto) override { hechos.push_back("PropertyChanged"); }
+    bool CanPropertyChange(VistaTexto) override { return true; }
     Fuente AmbientFont() override { return nullptr; }
     bool UserMode() override { return true; }
     bool DisplayAsDefault() override { return false; }
@@ -32,6 +33,9 @@ class SitioDePrueba final : public SitioControl {
         hechos.push_back(dentro ? "FocoCambiado si" : "FocoCambiado no");
     }
     void EnviarTab() override { hechos.push_back("EnviarTab"); }
+    void MoverFoco(bool atras) override {
+        hechos.push_back(atras ? "MoverFoco atras" : "MoverFoco");
+    }
     void ControlesContenidos(const std::function<void(ControlContenido&)>&) override {}
     bool EntradaCongelada() override { return congelado; }
     bool Mensaje(HWND, UINT mensaje, WPARAM, LPARAM, LRESULT* resultado) override {

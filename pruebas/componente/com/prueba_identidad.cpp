@@ -63,7 +63,7 @@ bool Ofrece(IUnknown* objeto, REFIID iid) {
 
 } // namespace
 
-TEST_CASE("The drawing class and the button can be made") {
+TEST_CASE("The drawing class, the button and the four text boxes can be made") {
     const SesionOle ole;
     const Modulo modulo;
     std::set<std::wstring> hechas;
@@ -71,8 +71,9 @@ TEST_CASE("The drawing class and the button can be made") {
         CHECK(Hecho(fabrica));
         hechas.insert(una.nombre);
     });
-    CHECK(hechas.count(L"Efectos") == 1);
-    CHECK(hechas.count(L"Botonazo") == 1);
+    for (const wchar_t* nombre :
+         {L"Efectos", L"Botonazo", L"Tbox", L"TBoxML", L"TboxSS", L"TboxSSML"})
+        CHECK(hechas.count(nombre) == 1);
 }
 
 TEST_CASE("An object has one identity, whatever interface it is asked through") {
