@@ -15,8 +15,8 @@ class BancoAtl {
                                 240, nullptr, nullptr, nullptr, nullptr);
         huesped = CreateWindowExW(0, Clase(), L"", WS_CHILD | WS_VISIBLE, 40, 40, 120, 40, marco,
                                   nullptr, nullptr, nullptr);
-        texto = CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 10, 150, 60, 20, marco,
-                                nullptr, nullptr, nullptr);
+        texto = CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 10, 150, 60,
+                                20, marco, nullptr, nullptr, nullptr);
         SetCursorPos(1200, 1000);
         SetForegroundWindow(marco);
         SetFocus(texto);
