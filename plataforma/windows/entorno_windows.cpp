@@ -239,8 +239,10 @@ void EntornoWindows::EnviarTab() {
 }
 
 // Keys stay in the queue: they come in order after the one that is being handled, and only the
-// container's own loop knows its accelerators and its way through the form.
+// container's own loop knows its accelerators and its way through the form. What arrives meanwhile
+// stays too, or a timer that is never quite done would hold its control here.
 void EntornoWindows::DoEvents() {
+    const DWORD ahora = ::GetTickCount();
     const auto pendiente = [](MSG& mensaje) {
         return ::PeekMessageW(&mensaje, nullptr, 0, WM_KEYFIRST - 1, PM_REMOVE) ||
                ::PeekMessageW(&mensaje, nullptr, WM_KEYLAST + 1, MAXUINT, PM_REMOVE);
@@ -251,6 +253,8 @@ void EntornoWindows::DoEvents() {
             return;
         }
         ::DispatchMessageW(&mensaje);
+        if (static_cast<LONG>(mensaje.time - ahora) > 0)
+            return;
     }
 }
 

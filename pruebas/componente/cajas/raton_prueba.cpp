@@ -34,7 +34,7 @@ struct BancoDeRaton : BancoDeCaja {
         int cuantos = 0;
         for (const ULONGLONG fin = GetTickCount64() + 300; GetTickCount64() < fin; Sleep(1)) {
             MSG mensaje;
-            while (PeekMessageW(&mensaje, nullptr, 0, 0, PM_REMOVE)) {
+            if (PeekMessageW(&mensaje, nullptr, 0, 0, PM_REMOVE)) {
                 cuantos += mensaje.message == WM_TIMER && mensaje.lParam != 0;
                 DispatchMessageW(&mensaje);
             }
