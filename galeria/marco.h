@@ -1,6 +1,7 @@
 // The gallery's window: one tab for each page.
 #pragma once
 
+#include "galeria/diseno.h"
 #include "galeria/pagina.h"
 
 #include <memory>
@@ -23,6 +24,7 @@ class Marco {
     anfitrion::Formulario forma_;
     HWND pestanas_;
     std::unique_ptr<void, decltype(&DeleteObject)> fuente_;
+    Diseno diseno_;
     std::vector<std::unique_ptr<Pagina>> paginas_;
     std::size_t visible_ = 0;
 };

@@ -40,9 +40,10 @@ struct Par {
     Valor valor;
 };
 
-/// One control. Its own pairs come after those of its group.
+/// One control. Its own pairs come after those of its group. Without title and pairs its place stays
+/// free.
 struct Muestra {
-    const wchar_t* titulo; ///< its caption; null for classes without one, empty: the place stays free
+    const wchar_t* titulo; ///< its caption; null for classes without one
     std::array<Par, 10> pares;
     const wchar_t* clase = nullptr; ///< null for that of the group
 };

@@ -29,6 +29,10 @@ constexpr RECT LugarDiario{TarjetaEventos.left + 8, TarjetaEventos.top + 36,
 constexpr RECT LugarLimpiar{TarjetaEventos.right - 14 - 95, TarjetaEventos.bottom - 44,
                             TarjetaEventos.right - 14, TarjetaEventos.bottom - 12};
 
+bool EsHueco(const Muestra& muestra) {
+    return muestra.titulo && !*muestra.titulo && !muestra.pares[0].clave;
+}
+
 OpcionesFormulario Opciones(HWND padre) {
     OpcionesFormulario opciones;
     opciones.padre = padre;
@@ -82,7 +86,7 @@ Pagina::Control Pagina::PonerControl(const wchar_t* clase, const std::wstring& n
 
 void Pagina::Poner(const Grupo& grupo, int n) {
     const Muestra& muestra = grupo.muestras[static_cast<std::size_t>(n)];
-    if (muestra.titulo && !*muestra.titulo)
+    if (EsHueco(muestra))
         return;
     const std::wstring primera(grupo.titulo, std::wcscspn(grupo.titulo, L" "));
     std::array<Par, 9> comunes{};

@@ -23,6 +23,7 @@ class Pagina {
     virtual ~Pagina() = default;
 
     anfitrion::Formulario& Forma() { return forma_; }
+    const std::optional<anfitrion::Componente>& ElComponente() const { return componente_; }
     /// Makes every control of the page. Throws anfitrion::FalloCom when the component can't be had.
     void Armar();
     /// Everything stands and has been painted: from now on events are written down.

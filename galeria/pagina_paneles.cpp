@@ -84,6 +84,12 @@ void PaginaPaneles::PonerPanelConControles() {
         PonerControl(L"Botonazo", titulo, {x, 48, x + 88, 80}, DelBoton, propios, panel_.get());
         x += 100;
     }
+    static constexpr Par DeLaCaja[] = {
+        {L"ColorFonTexto", Blanco},
+        {L"ToolTipText", L"Una caja de texto dentro del panel"},
+    };
+    const Par deTexto[] = {{L"Text", L"Ana Gómez"}};
+    PonerControl(L"TboxSS", L"Caja", {16, 90, 304, 114}, DeLaCaja, deTexto, panel_.get());
     const auto dentro =
         PonerControl(L"Area", L"Interior", {326, 26, 482, 112}, {}, DelTransparente, panel_.get());
     const Par propios[] = {{L"Caption", L"Borrar"}};
