@@ -15,6 +15,16 @@ const MiembroTardio* ClasePublicada::Buscar(DISPID dispid) const {
     return nullptr;
 }
 
+HRESULT detalle::EntrarCon(InterfazDual* yo, void (*accion)(void*), void* datos) noexcept {
+    const Sosten sosten(yo->objeto);
+    return Proteger(*yo->clase->datos, [&] {
+        if (yo->preparar)
+            yo->preparar(*yo);
+        accion(datos);
+        return S_OK;
+    });
+}
+
 namespace base {
 
 namespace {

@@ -89,14 +89,13 @@ class Sosten {
     IUnknown* objeto_;
 };
 
+/// Runs `accion(datos)` with the object held and ready; what it throws becomes the status.
+HRESULT EntrarCon(InterfazDual* yo, void (*accion)(void* datos), void* datos) noexcept;
+
 template <class F>
-HRESULT Entrar(InterfazDual* yo, F&& f) noexcept {
-    Sosten sosten(yo->objeto);
-    return Proteger(*yo->clase->datos, [&] {
-        if (yo->preparar)
-            yo->preparar(*yo);
-        return f();
-    });
+HRESULT Entrar(InterfazDual* yo, F f) noexcept {
+    return EntrarCon(
+        yo, [](void* datos) { (*static_cast<F*>(datos))(); }, &f);
 }
 
 template <class C>
@@ -133,6 +132,39 @@ inline auto TomarArgumento<const tRectRedo&>(ArgumentosTardios& argumentos, unsi
     return *static_cast<const tRectRedo*>(V_RECORD(v));
 }
 
+// What the functions of a property do, once for each kind of value: there are hundreds of properties.
+
+template <class Nucleo, class Valor, class L>
+[[gnu::noinline]] HRESULT LeerCon(InterfazDual* yo, typename Abi<Valor>::Tipo* salida, L leer) {
+    if (!salida)
+        return E_POINTER;
+    *salida = typename Abi<Valor>::Tipo{};
+    return Entrar(yo, [&] { *salida = Abi<Valor>::Salir((NucleoDe<Nucleo>(yo).*leer)()); });
+}
+
+template <class Nucleo, class P, class F>
+[[gnu::noinline]] HRESULT PonerCon(InterfazDual* yo, ParametroAbi<P> valor, F poner) {
+    if (EsPunteroNulo<P>(valor))
+        return E_POINTER;
+    return Entrar(yo, [&] { (NucleoDe<Nucleo>(yo).*poner)(EntrarParametro<P>(valor)); });
+}
+
+template <class Nucleo, class Valor, class L>
+[[gnu::noinline]] void LeerTardia(InterfazDual& yo, ArgumentosTardios& argumentos,
+                                  VARIANT* resultado, L leer) {
+    argumentos.convertidos = true;
+    const auto valor = Abi<Valor>::AVariante((NucleoDe<Nucleo>(&yo).*leer)());
+    if (resultado)
+        HaciaVariant(valor, resultado);
+}
+
+template <class Nucleo, class Valor, class F>
+[[gnu::noinline]] void PonerTardia(InterfazDual& yo, ArgumentosTardios& argumentos, F poner) {
+    auto valor = TomarArgumento<Valor>(argumentos, 0, Parametro{nullptr});
+    argumentos.convertidos = true;
+    (NucleoDe<Nucleo>(&yo).*poner)(std::move(valor));
+}
+
 // Functions of one property.
 template <class Nucleo, class M>
 struct FuncionesDePropiedad {
@@ -140,38 +172,20 @@ struct FuncionesDePropiedad {
     using Salida = typename Abi<Valor>::Tipo;
 
     static HRESULT STDMETHODCALLTYPE Leer(InterfazDual* yo, Salida* salida) {
-        if (!salida)
-            return E_POINTER;
-        *salida = Salida{};
-        return Entrar(yo, [&] {
-            *salida = Abi<Valor>::Salir((NucleoDe<Nucleo>(yo).*M::Leer)());
-            return S_OK;
-        });
+        return LeerCon<Nucleo, Valor>(yo, salida, M::Leer);
     }
 
     template <class P>
     static HRESULT STDMETHODCALLTYPE Poner(InterfazDual* yo, ParametroAbi<P> valor) {
-        if (EsPunteroNulo<P>(valor))
-            return E_POINTER;
-        return Entrar(yo, [&] {
-            (NucleoDe<Nucleo>(yo).*M::Poner)(EntrarParametro<P>(valor));
-            return S_OK;
-        });
+        return PonerCon<Nucleo, P>(yo, valor, M::Poner);
     }
 
     static HRESULT Tardia(InterfazDual& yo, bool poner, ArgumentosTardios& argumentos,
                           VARIANT* resultado) {
-        auto& nucleo = NucleoDe<Nucleo>(&yo);
-        if (!poner) {
-            argumentos.convertidos = true;
-            const auto valor = Abi<Valor>::AVariante((nucleo.*M::Leer)());
-            if (resultado)
-                HaciaVariant(valor, resultado);
-        } else if constexpr (M::SeEscribe) {
-            auto valor = TomarArgumento<Valor>(argumentos, 0, Parametro{nullptr});
-            argumentos.convertidos = true;
-            (nucleo.*M::Poner)(std::move(valor));
-        }
+        if (!poner)
+            LeerTardia<Nucleo, Valor>(yo, argumentos, resultado, M::Leer);
+        else if constexpr (M::SeEscribe)
+            PonerTardia<Nucleo, Valor>(yo, argumentos, M::Poner);
         return S_OK;
     }
 };
@@ -187,10 +201,7 @@ struct FuncionesDeMetodo<Nucleo, M, std::tuple<P...>> {
     static HRESULT STDMETHODCALLTYPE LlamarSinResultado(InterfazDual* yo, ParametroAbi<P>... p) {
         if ((EsPunteroNulo<P>(p) || ...))
             return E_POINTER;
-        return Entrar(yo, [&] {
-            (NucleoDe<Nucleo>(yo).*M::Funcion)(EntrarParametro<P>(p)...);
-            return S_OK;
-        });
+        return Entrar(yo, [&] { (NucleoDe<Nucleo>(yo).*M::Funcion)(EntrarParametro<P>(p)...); });
     }
 
     template <class R>
@@ -203,7 +214,6 @@ struct FuncionesDeMetodo<Nucleo, M, std::tuple<P...>> {
             return E_POINTER;
         return Entrar(yo, [&] {
             *salida = Abi<R>::Salir((NucleoDe<Nucleo>(yo).*M::Funcion)(EntrarParametro<P>(p)...));
-            return S_OK;
         });
     }
 
