@@ -212,6 +212,17 @@ TEST_CASE(
     CHECK(una == c.La(L"+  Color"));
 }
 
+TEST_CASE("The tab key comes to the angle where it stands, in both states") {
+    Colores c;
+    c.Elegir(c.Relleno(), 4);
+    const HWND angulo = c.Campo(L"Angulo :");
+    for (const wchar_t* estado : {L"Normal", L"Sobre"}) {
+        c.Pulsar(c.La(estado));
+        CHECK(GetNextDlgTabItem(c.Dialogo(), c.Campo(L"Color de Fondo:"), FALSE) == angulo);
+        CHECK(GetNextDlgTabItem(c.Dialogo(), angulo, FALSE) == TopesDe(c.Dialogo())[0]);
+    }
+}
+
 TEST_CASE("Stops are edited, inverted and equalised, and their lists applied") {
     Colores c;
     c.Pulsar(c.La(L"+  Color"));
