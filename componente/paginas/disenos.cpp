@@ -70,7 +70,7 @@ constexpr Pieza PiezasGeneral[] = {
 // the widgets, in the properties and in what stands below the row of stops.
 struct NombresDeEditor {
     VistaTexto marco, letra, fondo, estilo, fila, mas, menos, vista;
-    const wchar_t *propiedadLetra, *propiedadFondo, *propiedadEstilo;
+    const wchar_t *propiedadLetra, *propiedadFondo, *propiedadEstilo, *propiedadFila = nullptr;
 };
 constexpr NombresDeEditor Normal{u"Frame1(0)",        u"cbColLetra(0)", u"cbColFondo(0)",
                                  u"cmbEstDegrade(0)", u"FraDegra(0)",   u"CBMasColor(0)",
@@ -80,9 +80,9 @@ constexpr NombresDeEditor Sobre{u"Frame1(1)",        u"cbColLetra(1)", u"cbColFo
                                 u"cmbEstDegrade(1)", u"FraDegra(1)",   u"CBMasColor(1)",
                                 u"CBMenColor(1)",    u"Picture1(1)",   L"ColorLetraSobre",
                                 L"ColorFondoSobre",  nullptr};
-constexpr NombresDeEditor DelPanel{u"Frame1",     u"cbColLetra", u"cbColFondo", u"cmbEstDegrade",
-                                   u"FraDegra",   u"CBMasColor", u"CBMenColor", u"Picture1",
-                                   L"ColorLetra", L"ColorFondo", L"EstilosRell"};
+constexpr NombresDeEditor DelPanel{u"Frame1",     u"cbColLetra", u"cbColFondo",  u"cmbEstDegrade",
+                                   u"FraDegra",   u"CBMasColor", u"CBMenColor",  u"Picture1",
+                                   L"ColorLetra", L"ColorFondo", L"EstilosRell", L"ColorDegrade"};
 
 constexpr short AnchoRotuloDentro = 54, ColorDentro = 70;
 constexpr short AnchoCampo2Dentro = Dentro + AnchoDentro - Campo2;
@@ -124,7 +124,7 @@ template <std::size_t N>
 constexpr void PonFila(Composicion<N>& pagina, const NombresDeEditor& n, short y, short alto) {
     const auto en = [y](int resto) { return static_cast<short>(y + resto); };
     pagina.Agregar({
-        {FilaDeTopes, n.fila, Dentro, en(42), AnchoDentro, 28, L"", n.marco},
+        {FilaDeTopes, n.fila, Dentro, en(42), AnchoDentro, 28, L"", n.marco, n.propiedadFila},
         {Boton, n.mas, Dentro, en(74), 42, 14, L"+  &Color", n.marco},
         {Boton, n.menos, 60, en(74), 42, 14, L"- C&olor", n.marco},
         {Cuadro, n.vista, Dentro, en(94), AnchoDentro, alto, L"", n.marco},
