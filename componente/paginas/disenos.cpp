@@ -4,6 +4,7 @@
 #include "componente/clases.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 namespace pincela::componente {
@@ -16,8 +17,8 @@ using enum windows::ClasePieza;
 
 constexpr short Ancho = 252;
 // The two columns: label and field.
-constexpr short Rotulo1 = 7, Campo1 = 58, Rotulo2 = 131, Campo2 = 182;
-constexpr short AnchoRotulo = 49, AnchoCampo = 63;
+constexpr short Rotulo1 = 7, Campo1 = 55, Rotulo2 = 130, Campo2 = 179;
+constexpr short AnchoRotulo = 47, AnchoCampo = 66;
 // Inside a frame.
 constexpr short Dentro = 14, AnchoDentro = 224;
 
@@ -69,7 +70,7 @@ constexpr Pieza PiezasGeneral[] = {
 // the widgets, in the properties and in what stands below the row of stops.
 struct NombresDeEditor {
     VistaTexto marco, letra, fondo, estilo, fila, mas, menos, vista;
-    const wchar_t *propiedadLetra, *propiedadFondo, *propiedadEstilo;
+    const wchar_t *propiedadLetra, *propiedadFondo, *propiedadEstilo, *propiedadFila = nullptr;
 };
 constexpr NombresDeEditor Normal{u"Frame1(0)",        u"cbColLetra(0)", u"cbColFondo(0)",
                                  u"cmbEstDegrade(0)", u"FraDegra(0)",   u"CBMasColor(0)",
@@ -79,81 +80,93 @@ constexpr NombresDeEditor Sobre{u"Frame1(1)",        u"cbColLetra(1)", u"cbColFo
                                 u"cmbEstDegrade(1)", u"FraDegra(1)",   u"CBMasColor(1)",
                                 u"CBMenColor(1)",    u"Picture1(1)",   L"ColorLetraSobre",
                                 L"ColorFondoSobre",  nullptr};
-constexpr NombresDeEditor DelPanel{u"Frame1",     u"cbColLetra", u"cbColFondo", u"cmbEstDegrade",
-                                   u"FraDegra",   u"CBMasColor", u"CBMenColor", u"Picture1",
-                                   L"ColorLetra", L"ColorFondo", L"EstilosRell"};
+constexpr NombresDeEditor DelPanel{u"Frame1",     u"cbColLetra", u"cbColFondo",  u"cmbEstDegrade",
+                                   u"FraDegra",   u"CBMasColor", u"CBMenColor",  u"Picture1",
+                                   L"ColorLetra", L"ColorFondo", L"EstilosRell", L"ColorDegrade"};
 
-constexpr short AnchoRotuloDentro = 54, ColorDentro = 70, Rotulo2Dentro = 112, Campo2Dentro = 168;
-constexpr short AnchoCampo2Dentro = Dentro + AnchoDentro - Campo2Dentro;
+constexpr short AnchoRotuloDentro = 54, ColorDentro = 70;
+constexpr short AnchoCampo2Dentro = Dentro + AnchoDentro - Campo2;
 
-/// Frame, colours, fill and row of stops: the first nine pieces, 60 units high without the rest.
+/// Pieces in tab order, one after the other.
 template <std::size_t N>
-constexpr void PonEditor(Pieza (&piezas)[N], std::size_t lugar, const NombresDeEditor& n, short y,
-                         short alto) {
+struct Composicion {
+    Pieza piezas[N];
+    std::size_t puestas = 0;
+
+    template <std::size_t M>
+    constexpr void Agregar(const Pieza (&nuevas)[M]) {
+        for (const Pieza& pieza : nuevas)
+            piezas[puestas++] = pieza;
+    }
+};
+
+/// The frame with the two colours and the fill.
+constexpr std::size_t PiezasDeColor = 7;
+template <std::size_t N>
+constexpr void PonColores(Composicion<N>& pagina, const NombresDeEditor& n, short y, short alto) {
     const auto en = [y](int resto) { return static_cast<short>(y + resto); };
-    const Pieza editor[] = {
+    pagina.Agregar({
         {Grupo, n.marco, 7, y, 238, alto, L"Colores"},
         {Rotulo, u"", Dentro, en(12), AnchoRotuloDentro, 12, L"Color de &letra:", n.marco},
         {BotonColor, n.letra, ColorDentro, en(11), 32, 14, L"Color de letra", n.marco,
          n.propiedadLetra},
-        {Rotulo, u"", Rotulo2Dentro, en(12), AnchoRotuloDentro, 12, L"&EstiloRelleno:", n.marco},
-        {Lista, n.estilo, Campo2Dentro, en(12), AnchoCampo2Dentro, 12, L"", n.marco,
-         n.propiedadEstilo},
+        {Rotulo, u"", Rotulo2, en(12), AnchoRotulo, 12, L"&EstiloRelleno:", n.marco},
+        {Lista, n.estilo, Campo2, en(12), AnchoCampo2Dentro, 12, L"", n.marco, n.propiedadEstilo},
         {Rotulo, u"", Dentro, en(29), AnchoRotuloDentro, 12, L"Color de &Fondo:", n.marco},
         {BotonColor, n.fondo, ColorDentro, en(28), 32, 14, L"Color de Fondo", n.marco,
          n.propiedadFondo},
-        {FilaDeTopes, n.fila, Dentro, en(42), AnchoDentro, 28, L"", n.marco},
+    });
+}
+
+/// The row of stops with its buttons, and the preview, `alto` units high.
+constexpr std::size_t PiezasDeFila = 4;
+template <std::size_t N>
+constexpr void PonFila(Composicion<N>& pagina, const NombresDeEditor& n, short y, short alto) {
+    const auto en = [y](int resto) { return static_cast<short>(y + resto); };
+    pagina.Agregar({
+        {FilaDeTopes, n.fila, Dentro, en(42), AnchoDentro, 28, L"", n.marco, n.propiedadFila},
         {Boton, n.mas, Dentro, en(74), 42, 14, L"+  &Color", n.marco},
         {Boton, n.menos, 60, en(74), 42, 14, L"- C&olor", n.marco},
-    };
-    for (const Pieza& pieza : editor)
-        piezas[lugar++] = pieza;
-}
-constexpr std::size_t PiezasDeEditor = 10;
-
-constexpr Pieza Vista(const NombresDeEditor& n, short y) {
-    return {Cuadro, n.vista, Dentro, y, AnchoDentro, 26, L"", n.marco};
+        {Cuadro, n.vista, Dentro, en(94), AnchoDentro, alto, L"", n.marco},
+    });
 }
 
-struct PiezasColores {
-    Pieza piezas[3 + 2 * (PiezasDeEditor + 3) + 2];
-};
-
-constexpr PiezasColores ComponerColores() {
-    constexpr short y = 26, alto = 128;
-    PiezasColores c{};
-    std::size_t i = 0;
-    c.piezas[i++] = {Opcion, u"OptNorSob(0)", 7, 8, 50, 12, L"&Normal"};
-    c.piezas[i++] = {Opcion, u"OptNorSob(1)", 60, 8, 50, 12, L"&Sobre"};
-    c.piezas[i++] = {Boton, u"cbIgual", 190, 7, 55, 14, L"I&gualar"};
+// The two states lie over each other. Both have their colours before the one angle, and their rows
+// behind it: the tab key passes over what is hidden, and so goes down the page in each of them.
+constexpr auto ComponerColores() {
+    constexpr short y = 26, alto = 146;
+    Composicion<3 + 2 * (PiezasDeColor + PiezasDeFila + 2) + 2> c{};
+    c.Agregar({
+        {Opcion, u"OptNorSob(0)", 7, 8, 50, 12, L"&Normal"},
+        {Opcion, u"OptNorSob(1)", 60, 8, 50, 12, L"&Sobre"},
+        {Boton, u"cbIgual", 190, 7, 55, 14, L"I&gualar"},
+    });
+    PonColores(c, Normal, y, alto);
+    PonColores(c, Sobre, y, alto);
+    c.Agregar({
+        {Rotulo, u"lblAngulo", Rotulo2, y + 29, AnchoRotulo, 12, L"&Angulo :"},
+        {Campo, u"txtAngulo", Campo2, y + 29, 34, 12},
+    });
     const VistaTexto inversiones[2][2] = {{u"cbInvColores(0)", u"cbInvOrden(0)"},
                                           {u"cbInvColores(1)", u"cbInvOrden(1)"}};
     for (const NombresDeEditor* n : {&Normal, &Sobre}) {
-        PonEditor(c.piezas, i, *n, y, alto);
-        i += PiezasDeEditor;
         const auto& [colores, orden] = inversiones[n == &Normal ? 0 : 1];
-        c.piezas[i++] = {Boton, colores, 108, y + 74, 64, 14, L"&Invertir Colores", n->marco};
-        c.piezas[i++] = {Boton, orden, 176, y + 74, 62, 14, L"Invertir O&rden", n->marco};
-        c.piezas[i++] = Vista(*n, y + 94);
+        PonFila(c, *n, y, 44);
+        c.Agregar({
+            {Boton, colores, 108, y + 74, 64, 14, L"&Invertir Colores", n->marco},
+            {Boton, orden, 176, y + 74, 62, 14, L"Invertir O&rden", n->marco},
+        });
     }
-    // One angle for both states: it lies over their frames.
-    c.piezas[i++] = {Rotulo, u"lblAngulo", Rotulo2Dentro, y + 29, AnchoRotuloDentro,
-                     12,     L"&Angulo :"};
-    c.piezas[i++] = {Campo, u"txtAngulo", Campo2Dentro, y + 29, 34, 12};
     return c;
 }
-constexpr PiezasColores PiezasDeColores = ComponerColores();
+constexpr auto PiezasDeColores = ComponerColores();
+static_assert(PiezasDeColores.puestas == std::size(PiezasDeColores.piezas));
 
-struct PiezasColoresArea {
-    Pieza piezas[15 + PiezasDeEditor + 1];
-};
-
-constexpr PiezasColoresArea ComponerColoresArea() {
-    PiezasColoresArea c{};
-    std::size_t i = 0;
-    const Pieza generales[] = {
+constexpr auto ComponerColoresArea() {
+    Composicion<15 + PiezasDeColor + PiezasDeFila> c{};
+    c.Agregar({
         Rotula(Rotulo1, 7, L"&Texto"),
-        {Campo, u"Texto", Campo1, 7, Campo2 - Campo1 - 7, 12, L"", u"", L"Caption"},
+        {Campo, u"Texto", Campo1, 7, Rotulo2 + AnchoRotulo - 10 - Campo1, 12, L"", u"", L"Caption"},
         Marca(u"ChkEnabled", Campo2, 7, AnchoCampo, L"&Habilitado", L"Enabled"),
         Rotula(Rotulo1, 24, L"&BackStyle"),
         Enumera(u"comBkStyle", Campo1, 24, L"BackStyle"),
@@ -167,21 +180,19 @@ constexpr PiezasColoresArea ComponerColoresArea() {
         Enumera(u"comTipoLetra", Campo1, 58, L"TipoLetra"),
         Rotula(Rotulo2, 58, L"Alin-Te&xt"),
         Enumera(u"CobAlinText", Campo2, 58, L"AlinText"),
-    };
-    for (const Pieza& pieza : generales)
-        c.piezas[i++] = pieza;
+    });
     constexpr short y = 75;
-    PonEditor(c.piezas, i, DelPanel, y, 128);
-    i += PiezasDeEditor;
-    c.piezas[i++] = Vista(DelPanel, y + 94);
+    PonColores(c, DelPanel, y, 128);
+    PonFila(c, DelPanel, y, 26);
     return c;
 }
-constexpr PiezasColoresArea PiezasDeColoresArea = ComponerColoresArea();
+constexpr auto PiezasDeColoresArea = ComponerColoresArea();
+static_assert(PiezasDeColoresArea.puestas == std::size(PiezasDeColoresArea.piezas));
 
 } // namespace
 
 const windows::DisenoPagina DisenoGeneral{L"General", Ancho, 179, PiezasGeneral};
-const windows::DisenoPagina DisenoColores{L"Colores", Ancho, 161, PiezasDeColores.piezas};
+const windows::DisenoPagina DisenoColores{L"Colores", Ancho, 179, PiezasDeColores.piezas};
 const windows::DisenoPagina DisenoColoresArea{L"Colores", Ancho, 210, PiezasDeColoresArea.piezas};
 
 const windows::DisenoPagina* DisenoDe(REFGUID pagina) {

@@ -130,6 +130,11 @@ std::unique_ptr<BotonColor> FilaDeTopesWindows::CrearBotonColor() {
     return tope;
 }
 
+// A frame takes no focus.
+HWND FilaDeTopesWindows::VentanaDeFoco() const {
+    return topes_.empty() ? nullptr : topes_.front()->Ventana();
+}
+
 TopeWindows* FilaDeTopesWindows::Tope(WORD numero) const {
     const auto hallado = std::find_if(topes_.begin(), topes_.end(), [&](const TopeWindows* tope) {
         return tope->Numero() == numero;

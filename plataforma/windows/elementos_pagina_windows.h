@@ -35,6 +35,8 @@ class VentanaDeElemento {
 
     void PonMarco(VentanaDeElemento* marco);
     HWND Ventana() const { return ventana_; }
+    /// The window that is typed or clicked into.
+    virtual HWND VentanaDeFoco() const { return ventana_; }
     WORD Numero() const { return numero_; }
 
     void Atar(HWND ventana);
@@ -210,6 +212,7 @@ class FilaDeTopesWindows final : public ElementoWindows<MarcoPagina> {
     using ElementoWindows::ElementoWindows;
 
     std::int32_t Width() const override { return TwipsDe(pieza_->ancho); }
+    HWND VentanaDeFoco() const override;
     std::unique_ptr<BotonColor> CrearBotonColor() override;
 
     /// Null when the row has no stop of that number.

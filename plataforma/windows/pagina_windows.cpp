@@ -260,8 +260,10 @@ bool PaginaWindows::Enfocar(const wchar_t* propiedad) {
     for (std::size_t i = 0; ventana_ && i < elementos_.size(); ++i) {
         const Pieza& pieza = diseno_.piezas[i];
         if (pieza.propiedad && std::wstring_view(pieza.propiedad) == propiedad) {
-            ::SendMessageW(ventana_, WM_NEXTDLGCTL,
-                           reinterpret_cast<WPARAM>(elementos_[i].ventana->Ventana()), TRUE);
+            const HWND foco = elementos_[i].ventana->VentanaDeFoco();
+            if (!::IsWindowEnabled(foco))
+                return false;
+            ::SendMessageW(ventana_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(foco), TRUE);
             return true;
         }
     }

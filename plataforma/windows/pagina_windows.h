@@ -42,7 +42,8 @@ class PaginaWindows final : public EntornoPagina, private Avisador {
     HWND Ventana() const { return ventana_; }
     /// True when the message was for the page and is done with.
     bool Pretraducir(MSG& mensaje);
-    /// Gives the focus to the widget that edits the property; false when there is none.
+    /// Gives the focus to the widget that edits the property; false when there is none or it is out
+    /// of use.
     bool Enfocar(const wchar_t* propiedad);
 
     // EntornoPagina

@@ -1,47 +1,22 @@
 // The colour pages in a frame that does nothing but what is asked.
-#include "pruebas/componente/paginas/banco.h"
-
-#include <commdlg.h>
+#include "pruebas/componente/paginas/colores.h"
 
 using namespace paginas;
 
 namespace {
 
-/// Colour buttons of the row that is shown, in order.
-std::vector<HWND> TopesDe(HWND dialogo) {
-    std::vector<HWND> topes;
-    for (const HWND una : Hijas(dialogo))
-        if (SeVe(una) && ClaseDeVentana(una) == L"Button" && GetDlgCtrlID(una) >= 0x2000)
-            topes.push_back(una);
-    return topes;
-}
-
-HWND VistaDe(HWND dialogo) {
-    for (const HWND una : Hijas(dialogo))
-        if (SeVe(una) && ClaseDeVentana(una) == L"PincelaCuadro")
-            return una;
-    return nullptr;
-}
-
-/// Pixels of a widget as its dialog paints it.
-anfitrion::Captura Imagen(HWND ventana) {
-    RECT r{};
-    GetClientRect(ventana, &r);
-    return anfitrion::Captura::DeDibujo(r.right, r.bottom, [&](HDC dc) {
-        DRAWITEMSTRUCT dibujo{};
-        dibujo.CtlType = ODT_BUTTON;
-        dibujo.CtlID = static_cast<UINT>(GetDlgCtrlID(ventana));
-        dibujo.hwndItem = ventana;
-        dibujo.hDC = dc;
-        dibujo.rcItem = r;
-        SendMessageW(GetParent(ventana), WM_DRAWITEM, dibujo.CtlID,
-                     reinterpret_cast<LPARAM>(&dibujo));
-    });
-}
-COLORREF ColorDe(HWND ventana) {
-    const auto imagen = Imagen(ventana);
-    return imagen.Pixel(imagen.Ancho() / 2, imagen.Alto() / 2);
-}
+/// A bag that remembers one key.
+struct Bolsa : anfitrion::ObjetoCom<IPropertyBag> {
+    std::wstring clave, valor;
+    HRESULT STDMETHODCALLTYPE Read(LPCOLESTR, VARIANT*, IErrorLog*) override {
+        return E_INVALIDARG;
+    }
+    HRESULT STDMETHODCALLTYPE Write(LPCOLESTR nombre, VARIANT* v) override {
+        if (clave == nombre)
+            valor = anfitrion::Mostrar(*v);
+        return S_OK;
+    }
+};
 
 struct Colores : BancoPagina {
     Colores() : BancoPagina(L"ProPColores") {
@@ -62,19 +37,6 @@ struct Colores : BancoPagina {
     Puntero<IDispatch> boton;
 };
 
-/// A bag that remembers one key.
-struct Bolsa : anfitrion::ObjetoCom<IPropertyBag> {
-    std::wstring clave, valor;
-    HRESULT STDMETHODCALLTYPE Read(LPCOLESTR, VARIANT*, IErrorLog*) override {
-        return E_INVALIDARG;
-    }
-    HRESULT STDMETHODCALLTYPE Write(LPCOLESTR nombre, VARIANT* v) override {
-        if (clave == nombre)
-            valor = anfitrion::Mostrar(*v);
-        return S_OK;
-    }
-};
-
 std::wstring Colores::Guardado(IUnknown* objeto, const wchar_t* clave) {
     const auto bolsa = anfitrion::Hacer<Bolsa>();
     bolsa->clave = clave;
@@ -82,23 +44,6 @@ std::wstring Colores::Guardado(IUnknown* objeto, const wchar_t* clave) {
             S_OK);
     return bolsa->valor;
 }
-
-/// Answers the colour chooser with a colour, or cancels it.
-class Elector {
-  public:
-    explicit Elector(COLORREF color, bool aceptar = true)
-        : contestador_([=, this](HWND dialogo) {
-              ++veces;
-              SetDlgItemInt(dialogo, 706, GetRValue(color), FALSE);
-              SetDlgItemInt(dialogo, 707, GetGValue(color), FALSE);
-              SetDlgItemInt(dialogo, 708, GetBValue(color), FALSE);
-              SendMessageW(dialogo, WM_COMMAND, aceptar ? IDOK : IDCANCEL, 0);
-          }) {}
-    int veces = 0;
-
-  private:
-    Contestador contestador_;
-};
 
 } // namespace
 
@@ -164,6 +109,45 @@ TEST_CASE("A colour chosen in the dialog goes to its button and, applied, to the
     CHECK_FALSE(c.Sucia());
 }
 
+TEST_CASE("The user's own colours are there again while the page lives, whatever its window does") {
+    // Numbers of the platform's dialog.
+    constexpr int Propios = 721, Agregar = 712;
+    const auto pulsarPropio = [](HWND dialogo) {
+        RECT r{};
+        GetWindowRect(GetDlgItem(dialogo, Propios), &r);
+        POINT primero{r.left + (r.right - r.left) / 16, r.top + (r.bottom - r.top) / 4};
+        ScreenToClient(dialogo, &primero);
+        SendMessageW(dialogo, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(primero.x, primero.y));
+        SendMessageW(dialogo, WM_LBUTTONUP, 0, MAKELPARAM(primero.x, primero.y));
+    };
+    // Chooses whatever stands at the first place of the user's own.
+    const auto elegirPropio = [&](Colores& c, const wchar_t* rotulo) {
+        const Contestador contestador([&](HWND dialogo) {
+            pulsarPropio(dialogo);
+            SendMessageW(dialogo, WM_COMMAND, IDOK, 0);
+        });
+        c.Pulsar(c.Campo(rotulo));
+        return ColorDe(c.Campo(rotulo));
+    };
+    Colores c;
+    {
+        const Contestador contestador([](HWND dialogo) {
+            SetDlgItemInt(dialogo, 706, 12, FALSE);
+            SetDlgItemInt(dialogo, 707, 34, FALSE);
+            SetDlgItemInt(dialogo, 708, 56, FALSE);
+            SendMessageW(dialogo, WM_COMMAND, Agregar, 0);
+            SendMessageW(dialogo, WM_COMMAND, IDCANCEL, 0);
+        });
+        c.Pulsar(c.Campo(L"Color de letra:"));
+    }
+    CHECK(elegirPropio(c, L"Color de Fondo:") == RGB(12, 34, 56));
+    CHECK(c.pagina->Deactivate() == S_OK);
+    REQUIRE(c.Activar() == S_OK);
+    CHECK(elegirPropio(c, L"Color de letra:") == RGB(12, 34, 56));
+    Colores otra;
+    CHECK(elegirPropio(otra, L"Color de letra:") != RGB(12, 34, 56));
+}
+
 TEST_CASE("A system colour that is confirmed stays one") {
     Colores c;
     Poner(c.boton.get(), L"ColorFondo", static_cast<long>(0x8000000F));
@@ -210,6 +194,17 @@ TEST_CASE(
         una = GetNextDlgTabItem(c.Dialogo(), una, FALSE);
     }
     CHECK(una == c.La(L"+  Color"));
+}
+
+TEST_CASE("The tab key comes to the angle where it stands, in both states") {
+    Colores c;
+    c.Elegir(c.Relleno(), 4);
+    const HWND angulo = c.Campo(L"Angulo :");
+    for (const wchar_t* estado : {L"Normal", L"Sobre"}) {
+        c.Pulsar(c.La(estado));
+        CHECK(GetNextDlgTabItem(c.Dialogo(), c.Campo(L"Color de Fondo:"), FALSE) == angulo);
+        CHECK(GetNextDlgTabItem(c.Dialogo(), angulo, FALSE) == TopesDe(c.Dialogo())[0]);
+    }
 }
 
 TEST_CASE("Stops are edited, inverted and equalised, and their lists applied") {
@@ -322,18 +317,4 @@ TEST_CASE("What edits the rows is published, and refuses what is no row") {
     CHECK(estado(L"AgregarColorD", {Variante(c.boton.get()), Variante(1)}) == Tipos);
     CHECK(estado(L"EliminarColorD", {Variante(c.boton.get()), Variante(1)}) == Tipos);
     CHECK(estado(L"PreVis", {Variante(0), Variante(c.boton.get())}) == Tipos);
-}
-
-TEST_CASE("The page of the panel refuses a button and can be shown without objects") {
-    BancoPagina banco(L"ProPColoresArea");
-    REQUIRE(banco.Activar() == S_OK);
-    CHECK(banco.Seleccionar({banco.Boton()}) == static_cast<HRESULT>(0x800A000D));
-    CHECK_FALSE(banco.Sucia());
-    // What it offers was filled in before the object was met.
-    CHECK(SendMessageW(banco.Campo(L"Estilo Borde"), CB_GETCOUNT, 0, 0) == 4);
-    CHECK(SendMessageW(banco.Campo(L"EstiloRelleno:"), CB_GETCOUNT, 0, 0) == 4);
-    for (const wchar_t* texto : {L"Texto", L"Habilitado", L"BackStyle", L"Separaci", L"Ancho Borde",
-                                 L"Estilo Borde", L"Tipo Letra", L"Alin-Text", L"Color de letra:",
-                                 L"Color de Fondo:", L"EstiloRelleno:", L"+  Color", L"- Color"})
-        CHECK(banco.La(texto) != nullptr);
 }

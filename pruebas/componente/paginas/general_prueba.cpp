@@ -292,18 +292,6 @@ TEST_CASE("A property leads to its page, and the page to its field") {
     CHECK(g.pagina->EditProperty(31415) == E_NOTIMPL);
 }
 
-TEST_CASE("The pages of a button come in the designer's order") {
-    General g;
-    CAUUID lista{};
-    REQUIRE(g.boton.Como<ISpecifyPropertyPages>()->GetPages(&lista) == S_OK);
-    REQUIRE(lista.cElems == 4);
-    CHECK(Escrito(lista.pElems[0]) == ClaseDe(L"ProPGeneral").clase);
-    CHECK(Escrito(lista.pElems[1]) == ClaseDe(L"ProPColores").clase);
-    CHECK(Escrito(lista.pElems[2]) == L"{0BE35202-8F91-11CE-9DE3-00AA004BB851}");
-    CHECK(Escrito(lista.pElems[3]) == L"{0BE35200-8F91-11CE-9DE3-00AA004BB851}");
-    CoTaskMemFree(lista.pElems);
-}
-
 TEST_CASE("A page refuses what comes out of order") {
     BancoPagina banco(L"ProPGeneral");
     CHECK(banco.pagina->Apply() == E_UNEXPECTED);

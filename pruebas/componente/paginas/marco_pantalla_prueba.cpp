@@ -1,6 +1,7 @@
 // The pages in the container's property frame, with the user's own mouse and keyboard.
 #include "anfitrion/formulario.h"
 #include "anfitrion/marco_propiedades.h"
+#include "pruebas/cada.h"
 #include "pruebas/componente/comun/modulo.h"
 #include "pruebas/componente/vivo/banco.h"
 
@@ -10,6 +11,7 @@
 #include <cwchar>
 
 using namespace vivo;
+using pincela::pruebas::Cada;
 
 namespace {
 
@@ -30,9 +32,9 @@ HWND Visible(HWND padre, const wchar_t* texto) {
     return nullptr;
 }
 
-/// A button on a form in design mode, and a frame with its pages.
+/// A button, or another control, on a form in design mode, and a frame with its pages.
 struct BancoMarco {
-    BancoMarco() {
+    explicit BancoMarco(const wchar_t* clase = L"Pincela.Botonazo") : b({}, clase) {
         SetForegroundWindow(b.forma->Ventana());
         b.forma->PonerModoUsuario(false);
         std::vector<Puntero<IUnknown>> objetos{Puntero<IUnknown>(b.boton->Despacho())};
@@ -85,6 +87,28 @@ struct BancoMarco {
 };
 
 } // namespace
+
+// Texts of the windows inside the dialog that was cancelled.
+static std::vector<std::wstring> vistas;
+
+static BOOL CALLBACK AnotarHija(HWND hija, LPARAM) {
+    vistas.push_back(Leido(hija));
+    return TRUE;
+}
+
+static BOOL CALLBACK CancelarMarco(HWND una, LPARAM) {
+    wchar_t clase[50];
+    GetClassNameW(una, clase, 50);
+    if (std::wcscmp(clase, L"#32770") != 0 || !IsWindowVisible(una))
+        return TRUE;
+    EnumChildWindows(una, &AnotarHija, 0);
+    PostMessageW(una, WM_COMMAND, IDCANCEL, 0);
+    return FALSE;
+}
+
+static void CALLBACK MirarYCancelar(HWND, UINT, UINT_PTR, DWORD) {
+    EnumThreadWindows(GetCurrentThreadId(), &CancelarMarco, 0);
+}
 
 TEST_CASE("the frame shows the two pages of the button, and nothing to apply") {
     BancoMarco m;
@@ -194,34 +218,78 @@ TEST_CASE("a click on the other state shows its frame") {
     CHECK(m.Tras(L"Color de letra:") != normal);
 }
 
-// Texts of the windows inside the platform's frame.
-static std::vector<std::wstring> vistas;
-
-static BOOL CALLBACK AnotarHija(HWND hija, LPARAM) {
-    vistas.push_back(Leido(hija));
-    return TRUE;
+TEST_CASE("the panel's page is clicked and typed into, and Apply changes the panel on the form") {
+    BancoMarco m(L"Pincela.Area");
+    REQUIRE(m.marco->Cuantas() >= 1);
+    CHECK(m.marco->Titulo(0) == L"Colores");
+    m.Clic(m.Tras(L"Texto"));
+    m.Escribir("datos");
+    m.Clic(m.La(L"Habilitado"), 8);
+    SetFocus(m.Tras(L"EstiloRelleno:"));
+    m.Pulsar(VK_DOWN);
+    m.Clic(m.La(L"+  Color"));
+    CHECK(m.Leer(L"Caption") == "");
+    CHECK(IsWindowEnabled(m.DelMarco(L"Aplicar")));
+    m.Clic(m.DelMarco(L"Aplicar"));
+    CHECK_FALSE(IsWindowEnabled(m.DelMarco(L"Aplicar")));
+    CHECK(m.Leer(L"Caption") == "datos");
+    CHECK_FALSE(Logico(m.b.Leer(L"Enabled")));
+    CHECK(m.Leer(L"EstilosRell") == "1");
+    CHECK(m.Leer(L"ColorDegrade") == "16777215*0*0");
+    m.marco.reset();
+    m.b.forma->BombearMensajes();
+    const auto imagen = Captura::DeVentana(m.b.Ventana());
+    CHECK(GetRValue(imagen.Pixel(6, 30)) > 200);
+    CHECK(imagen.Pixel(imagen.Ancho() - 8, 30) == RGB(0, 0, 0));
 }
 
-static BOOL CALLBACK CancelarMarco(HWND una, LPARAM) {
-    wchar_t clase[50];
-    GetClassNameW(una, clase, 50);
-    if (std::wcscmp(clase, L"#32770") != 0 || !IsWindowVisible(una))
-        return TRUE;
-    EnumChildWindows(una, &AnotarHija, 0);
-    PostMessageW(una, WM_COMMAND, IDCANCEL, 0);
-    return FALSE;
+TEST_CASE("an item of a list is chosen with the mouse") {
+    BancoMarco m(L"Pincela.Area");
+    const HWND lista = m.Tras(L"Estilo Borde");
+    const LRESULT antes = SendMessageW(lista, CB_GETCURSEL, 0, 0);
+    m.Clic(lista);
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    REQUIRE(GetComboBoxInfo(lista, &info));
+    CHECK(IsWindowVisible(info.hwndList));
+    const auto alto = static_cast<int>(SendMessageW(lista, CB_GETITEMHEIGHT, 0, 0));
+    m.Clic(info.hwndList, 10, 3 * alto + alto / 2);
+    CHECK(antes != 3);
+    CHECK(SendMessageW(lista, CB_GETCURSEL, 0, 0) == 3);
+    m.Clic(m.DelMarco(L"Aceptar"));
+    CHECK(m.marco->Cerrado());
+    CHECK(m.Leer(L"EstilosBord") == "3");
 }
 
-static void CALLBACK MirarYCancelar(HWND, UINT, UINT_PTR, DWORD) {
-    EnumThreadWindows(GetCurrentThreadId(), &CancelarMarco, 0);
+TEST_CASE("Cancel leaves the panel as it was") {
+    BancoMarco m(L"Pincela.Area");
+    m.Clic(m.La(L"Habilitado"), 8);
+    m.Clic(m.DelMarco(L"Cancelar"));
+    CHECK(m.marco->Cerrado());
+    CHECK(Logico(m.b.Leer(L"Enabled")));
 }
 
-TEST_CASE("the verb of the control opens the platform's frame with its pages") {
-    Banco b;
+TEST_CASE("a click on a stop opens the colour chooser over the frame") {
+    BancoMarco m(L"Pincela.Area");
+    SetFocus(m.Tras(L"EstiloRelleno:"));
+    m.Pulsar(VK_DOWN);
+    const HWND tope = GetNextDlgTabItem(m.Pagina(), m.Tras(L"Color de Fondo:"), FALSE);
+    vistas.clear();
+    const UINT_PTR reloj = SetTimer(nullptr, 0, 300, &MirarYCancelar);
+    m.Clic(tope);
+    KillTimer(nullptr, reloj);
+    CHECK(vistas.size() > 10);
+    CHECK(IsWindowEnabled(m.marco->Ventana()));
+}
+
+TEST_CASE("the verb of a control opens the platform's frame with its pages") {
+    const auto [control, rotulo] = Cada<std::pair<const wchar_t*, const wchar_t*>>(
+        {{L"Pincela.Botonazo", L"Estilo Boton"}, {L"Pincela.Area", L"BackStyle"}});
+    Banco b({}, control);
     // The platform's frame creates pages by their class, registered or not.
     const publicado::Modulo modulo;
     std::vector<DWORD> registros;
-    for (const wchar_t* nombre : {L"ProPGeneral", L"ProPColores"}) {
+    for (const wchar_t* nombre : {L"ProPGeneral", L"ProPColores", L"ProPColoresArea"}) {
         const CLSID clase = publicado::Guid(publicado::ClaseDe(nombre).clase);
         Puntero<IClassFactory> fabrica;
         REQUIRE(modulo.DarClase(clase, IID_IClassFactory, fabrica.RecibirVoid()) == S_OK);
@@ -239,5 +307,5 @@ TEST_CASE("the verb of the control opens the platform's frame with its pages") {
     KillTimer(nullptr, reloj);
     for (const DWORD registro : registros)
         CoRevokeClassObject(registro);
-    CHECK(std::find(vistas.begin(), vistas.end(), L"Estilo Boton") != vistas.end());
+    CHECK(std::find(vistas.begin(), vistas.end(), rotulo) != vistas.end());
 }

@@ -24,6 +24,12 @@ class Retratos {
     std::wstring carpeta_, sufijo_;
 };
 
+void ElegirEnLista(HWND dialogo, HWND lista, int item) {
+    SendMessageW(lista, CB_SETCURSEL, static_cast<WPARAM>(item), 0);
+    SendMessageW(dialogo, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(lista), CBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(lista));
+}
+
 CLSID IdDe(const wchar_t* clase) {
     return Guid(ClaseDe(clase).clase);
 }
@@ -40,10 +46,7 @@ void RetratarBoton(Retratos& retratos) {
                            {IdDe(L"ProPGeneral"), IdDe(L"ProPColores")}, {objeto});
     const HWND general = FindWindowExW(marco.Ventana(), nullptr, L"#32770", nullptr);
     retratos.Tomar(marco.Ventana(), L"general_redondeado");
-    const HWND estilo = Tras(general, L"Estilo Boton");
-    SendMessageW(estilo, CB_SETCURSEL, 0, 0);
-    SendMessageW(general, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(estilo), CBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(estilo));
+    ElegirEnLista(general, Tras(general, L"Estilo Boton"), 0);
     retratos.Tomar(marco.Ventana(), L"general_clasico");
     marco.Mostrar(1);
     const HWND colores = FindWindowExW(marco.Ventana(), nullptr, L"#32770", nullptr);
@@ -52,29 +55,29 @@ void RetratarBoton(Retratos& retratos) {
     retratos.Tomar(marco.Ventana(), L"colores_normal");
     SendMessageW(Llamada(colores, L"Sobre"), BM_CLICK, 0, 0);
     const HWND relleno = Tras(colores, L"EstiloRelleno:");
-    for (const HWND una : Hijas(colores)) {
-        if (ClaseDeVentana(una) != L"ComboBox" || !SeVe(una))
-            continue;
-        SendMessageW(una, CB_SETCURSEL, 4, 0);
-        SendMessageW(colores, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(una), CBN_SELCHANGE),
-                     reinterpret_cast<LPARAM>(una));
-    }
+    for (const HWND una : Hijas(colores))
+        if (ClaseDeVentana(una) == L"ComboBox" && SeVe(una))
+            ElegirEnLista(colores, una, 4);
     retratos.Tomar(marco.Ventana(), L"colores_sobre");
     SendMessageW(Llamada(colores, L"Normal"), BM_CLICK, 0, 0);
-    SendMessageW(relleno, CB_SETCURSEL, 0, 0);
-    SendMessageW(colores, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(relleno), CBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(relleno));
+    ElegirEnLista(colores, relleno, 0);
     retratos.Tomar(marco.Ventana(), L"colores_solido");
 }
 
 void RetratarPanel(Retratos& retratos) {
-    BancoPagina banco(L"ProPColoresArea");
-    banco.Activar();
-    RECT r{};
-    GetWindowRect(banco.Dialogo(), &r);
-    SetWindowPos(banco.ventana.get(), nullptr, 0, 0, r.right - r.left, r.bottom - r.top,
-                 SWP_NOMOVE | SWP_NOZORDER);
-    retratos.Tomar(banco.ventana.get(), L"area");
+    const auto componente = anfitrion::Componente::DeFichero(RutaDelComponente());
+    Puntero<IUnknown> objeto = Crear(componente, L"Area");
+    IniciarNuevo(objeto.get());
+    const auto panel = objeto.Como<IDispatch>();
+    Poner(panel.get(), L"Caption", L"Datos del cliente");
+    Poner(panel.get(), L"EstilosRell", 3);
+    Poner(panel.get(), L"ColorDegrade", L"16777215*16744448*255*65280*0");
+    MarcoPropiedades marco(nullptr, L"Propiedades de Area", componente, {IdDe(L"ProPColoresArea")},
+                           {objeto});
+    const HWND colores = FindWindowExW(marco.Ventana(), nullptr, L"#32770", nullptr);
+    retratos.Tomar(marco.Ventana(), L"area_degradado");
+    ElegirEnLista(colores, Tras(colores, L"EstiloRelleno:"), 0);
+    retratos.Tomar(marco.Ventana(), L"area_solido");
 }
 
 } // namespace
