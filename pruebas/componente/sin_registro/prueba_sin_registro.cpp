@@ -1,7 +1,7 @@
 // The component used by an application that names its side-by-side assembly, with no key of ours in
 // the registry.
 #include "anfitrion/formulario.h"
-#include "pruebas/componente/comun/modulo.h"
+#include "pruebas/componente/comun/sin_registro.h"
 
 #include <doctest/doctest.h>
 
@@ -14,21 +14,6 @@ using anfitrion::Estrechar;
 using anfitrion::Puntero;
 
 namespace {
-
-/// The machine is left registered and the user without, as they were found.
-class SinRegistro {
-  public:
-    SinRegistro() {
-        REQUIRE(modulo_.Instalar(false, L"user") == S_OK);
-        REQUIRE(modulo_.Desregistrar() == S_OK);
-    }
-    SinRegistro(const SinRegistro&) = delete;
-    SinRegistro& operator=(const SinRegistro&) = delete;
-    ~SinRegistro() { modulo_.Registrar(); }
-
-  private:
-    Modulo modulo_;
-};
 
 /// The application's manifest in force on this thread.
 class Contexto {
