@@ -3,6 +3,7 @@
 
 #include <doctest/doctest.h>
 
+#include <version.h>
 #include <windows.h>
 
 #include <algorithm>
@@ -53,6 +54,11 @@ TEST_CASE("Every page of the reference is up to date, and there is none too many
     const auto hay = std::distance(std::filesystem::directory_iterator(Referencia()),
                                    std::filesystem::directory_iterator());
     CHECK(hay == static_cast<std::ptrdiff_t>(paginas.size()));
+}
+
+TEST_CASE("The assembly that the manual names has the component's version") {
+    const std::string pagina = Leer(Referencia().parent_path() / "cpp.md");
+    CHECK(Contiene(pagina, "name=\"Pincela\" version=\"" PINCELA_VERSION "\""));
 }
 
 TEST_CASE("The reference tells a new control's value apart from that of a missing key") {

@@ -47,6 +47,7 @@ int Correr(const std::vector<std::wstring>& argumentos) {
     opciones.titulo = L"Ejemplo de Pincela";
     opciones.ancho = 360;
     opciones.alto = 120;
+    opciones.visible = false;
     Formulario forma(opciones);
     ejemplo::Cargar(forma, Componente::DeRegistro(), LeerUtf8(argumentos[0]));
     if (guardar) {
@@ -58,6 +59,7 @@ int Correr(const std::vector<std::wstring>& argumentos) {
             if (evento.nombre == L"Click")
                 SetWindowTextW(forma.Ventana(), (L"Pulsado: " + nombre).c_str());
         });
+    ShowWindow(forma.Ventana(), SW_SHOW);
     forma.Ejecutar();
     return 0;
 }

@@ -5,14 +5,14 @@
 Option Explicit
 Dim efectos, boton, color
 
-Set efectos = CreateObject("Pincela.Efectos")
+Set efectos = WScript.CreateObject("Pincela.Efectos")
 color = &H00FF8040                                 ' &H00BBGGRR
 WScript.Echo "rojo " & efectos.DevColor(color, 0, True)
 WScript.Echo "verde " & efectos.DevColor(color, 1, True)
 WScript.Echo "azul " & efectos.DevColor(color, 2, True)
 
 ' Un control sin formulario no se ve, pero tiene todas sus propiedades.
-Set boton = CreateObject("Pincela.Botonazo")
+Set boton = WScript.CreateObject("Pincela.Botonazo")
 boton.Caption = "&Guardar"
 boton.EstilosRell = 2                              ' D_Vert
 boton.AnchoBorde = 3                               ' Grande
