@@ -50,6 +50,8 @@ bench: ocx
 	@$H/medir
 
 dist: ocx
+	@$H/construir win64 ejemplo
+	@$H/construir win32 ejemplo
 	@$H/empaquetar
 
 docs: setup-base
