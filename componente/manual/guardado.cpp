@@ -23,7 +23,8 @@ class Bolsa final : public BolsaPropiedades {
     Clave& De(VistaTexto clave) {
         const auto hallada = std::find_if(claves.begin(), claves.end(),
                                           [&](const Clave& una) { return una.nombre == clave; });
-        return hallada != claves.end() ? *hallada : claves.emplace_back(Clave{Texto(clave), {}, {}});
+        return hallada != claves.end() ? *hallada
+                                       : claves.emplace_back(Clave{Texto(clave), {}, {}});
     }
 };
 

@@ -91,7 +91,8 @@ std::string Guardado() {
                  (clave.noSeEscribe ? Escribir(*clave.noSeEscribe, tipo) : "nunca se guarda") +
                  " |\n";
     }
-    return "## Lo que se guarda con el formulario\n\nEn el orden en que se lee. Un valor igual al de la "
+    return "## Lo que se guarda con el formulario\n\nEn el orden en que se lee. Un valor igual al "
+           "de la "
            "última columna no se escribe.\n\n"
            "| clave | si falta al leer | no se guarda cuando es |\n|---|---|---|\n" +
            filas + "\n";
@@ -119,10 +120,9 @@ std::string Eventos() {
 }
 
 std::string Identidad(const DatosClase& datos) {
-    std::string texto = "| | |\n|---|---|\n| nombre para crearla | `Pincela." +
-                        Utf8(datos.nombre) + "` |\n| clase | `" + Escrito(datos.clase) +
-                        "` |\n| interfaz | `_" + Utf8(datos.nombre) + "` `" +
-                        Escrito(datos.interfaz) + "` |\n";
+    std::string texto = "| | |\n|---|---|\n| nombre para crearla | `Pincela." + Utf8(datos.nombre) +
+                        "` |\n| clase | `" + Escrito(datos.clase) + "` |\n| interfaz | `_" +
+                        Utf8(datos.nombre) + "` `" + Escrito(datos.interfaz) + "` |\n";
     if (datos.genero == Genero::Control)
         texto += "| eventos | `__" + Utf8(datos.nombre) + "` `" + Escrito(datos.eventos) +
                  "` |\n| tamaño de un control nuevo | " + std::to_string(datos.tamanio.cx) + " × " +
@@ -133,18 +133,18 @@ std::string Identidad(const DatosClase& datos) {
 template <class Tabla>
 std::string Clase(const DatosClase& datos) {
     const Presentacion presentacion = PresentacionDe(datos.nombre);
-    std::string texto =
-        Aviso + ("# " + Utf8(datos.nombre)) + "\n\n" + presentacion.texto + "\n\n";
+    std::string texto = Aviso + ("# " + Utf8(datos.nombre)) + "\n\n" + presentacion.texto + "\n\n";
     if (!datos.disponible)
-        texto += "> En esta versión la clase está descrita en la biblioteca de tipos, pero todavía no "
-                 "se puede crear.\n\n";
+        texto +=
+            "> En esta versión la clase está descrita en la biblioteca de tipos, pero todavía no "
+            "se puede crear.\n\n";
     if (presentacion.imagen)
         texto += "![" + Utf8(datos.nombre) + "](../../" + presentacion.imagen + ")\n\n";
     texto += Identidad(datos);
-    if constexpr (requires(typename Tabla::Nucleo& n) { n.InitProperties(); })
+    if constexpr (requires(typename Tabla::Nucleo & n) { n.InitProperties(); })
         texto += Propiedades<Tabla>();
     texto += Metodos<Tabla>() + Eventos<Tabla>();
-    if constexpr (requires(typename Tabla::Nucleo& n) { n.InitProperties(); })
+    if constexpr (requires(typename Tabla::Nucleo & n) { n.InitProperties(); })
         texto += Guardado<Tabla>();
     texto.pop_back();
     return texto;
@@ -157,9 +157,10 @@ std::string LasEnumeraciones() {
         for (const MiembroEnumeracion& miembro : una.miembros)
             texto += "| `" + Utf8(miembro.nombre) + "` | " + std::to_string(miembro.valor) + " |\n";
     }
-    return texto + "\n## tRectRedo\n\nRegistro: la elipse de las esquinas, como fracción del ancho y "
-                   "del alto.\n\n| campo | tipo |\n|---|---|\n| `RelX` | Single |\n| `RelY` | Single "
-                   "|\n";
+    return texto +
+           "\n## tRectRedo\n\nRegistro: la elipse de las esquinas, como fracción del ancho y "
+           "del alto.\n\n| campo | tipo |\n|---|---|\n| `RelX` | Single |\n| `RelY` | Single "
+           "|\n";
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-// ejemplo FORM [--guardar FILE]: shows a form kept as text; with --guardar, writes it again and ends.
-// The title tells which button was pressed last.
+// ejemplo FORM [--guardar FILE]: shows a form kept as text; with --guardar, writes it again and
+// ends. The title tells which button was pressed last.
 #include "ejemplos/cpp/formulario_texto.h"
 
 #include <shellapi.h>

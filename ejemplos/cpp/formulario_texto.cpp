@@ -100,9 +100,9 @@ class Lector {
         const std::wstring cifras(texto);
         wchar_t* fin = nullptr;
         const bool hexadecimal = texto.starts_with(L"&H");
-        const long entero =
-            hexadecimal ? static_cast<long>(std::wcstoul(cifras.c_str() + 2, &fin, 16))
-                        : std::wcstol(cifras.c_str(), &fin, 10);
+        const long entero = hexadecimal
+                                ? static_cast<long>(std::wcstoul(cifras.c_str() + 2, &fin, 16))
+                                : std::wcstol(cifras.c_str(), &fin, 10);
         if (fin != cifras.c_str() + (hexadecimal ? 2 : 0) && *fin == L'\0')
             return entero;
         const double real = std::wcstod(cifras.c_str(), &fin);

@@ -63,7 +63,8 @@ DWORD RasgosDelFichero(const Clase& una) {
 
 } // namespace
 
-TEST_CASE("Without registry and manifest the classes are unknown, with the manifest they are made") {
+TEST_CASE(
+    "Without registry and manifest the classes are unknown, with the manifest they are made") {
     const SesionOle ole;
     const SinRegistro nada;
     for (const wchar_t* nombre : {L"Botonazo", L"Efectos"}) {
