@@ -1,7 +1,7 @@
 # The front of the build. `make demo` shows the component; `make test` proves it.
 
 .DEFAULT_GOAL := ocx
-.PHONY: ayuda setup setup-base setup-32 ocx ocx64 ocx32 demo test bench fuzz format tidy clean
+.PHONY: ayuda setup setup-base setup-32 ocx ocx64 ocx32 demo test bench fuzz dist docs format tidy clean
 
 SHELL := /bin/bash
 H := herramientas
@@ -16,6 +16,8 @@ ayuda:
 	  'make test    every test: natively, and under 64- and 32-bit Wine' \
 	  'make bench   the measurements' \
 	  'make fuzz    a minute of made-up input for each reader of text and bytes' \
+	  'make dist    build/dist: the zip and the setup program of both widths' \
+	  'make docs    docs/manual: the reference, out of the tables of members' \
 	  'make tidy, make format, make clean'
 
 # Everything that building and the demo need; and what the 32-bit tests add to it.
@@ -46,6 +48,14 @@ fuzz: setup-base
 bench: ocx
 	@$H/construir win64 all
 	@$H/medir
+
+dist: ocx
+	@$H/construir win64 ejemplo
+	@$H/construir win32 ejemplo
+	@$H/empaquetar
+
+docs: setup-base
+	@$H/construir win64 manual
 
 format:
 	@$H/instalar estilo

@@ -2,6 +2,7 @@
 
 #include "componente/clases.h"
 #include "componente/modulo.h"
+#include "componente/puentes.h"
 
 #include <memory>
 #include <utility>
@@ -15,9 +16,6 @@ namespace {
 constexpr wchar_t Clases[] = L"Software\\Classes\\";
 constexpr const wchar_t* Sistema = sizeof(void*) == 8 ? L"win64" : L"win32";
 constexpr GUID CategoriaDeControles = "{40FC6ED4-2438-11CF-A3DB-080036F12502}"_guid;
-// The platform's own marshallers, for dual and for dispatch-only interfaces.
-constexpr GUID PuenteDual = "{00020424-0000-0000-C000-000000000046}"_guid;
-constexpr GUID PuenteDespacho = "{00020420-0000-0000-C000-000000000046}"_guid;
 
 class ClaveAbierta {
   public:
