@@ -4,7 +4,6 @@ namespace pincela::manual {
 
 namespace {
 
-// When the gallery gets another page, its picture goes here.
 constexpr Presentacion Presentaciones[] = {
     {L"Efectos",
      "La clase que dibuja: degradados, formas de ventana, copias transparentes y canales de un "
@@ -14,8 +13,9 @@ constexpr Presentacion Presentaciones[] = {
      "Un botón que se pinta solo: cara lisa o degradada, cuadrada o redondeada, una imagen y un "
      "título en cualquiera de nueve lugares, y otro aspecto con el ratón encima.",
      "galeria.png"},
-    {L"Area", "Un panel con título, fondo liso o degradado y bordes dibujados.", nullptr},
-    {L"Tbox", "Un campo de texto de una línea, con título y sombra.", nullptr},
+    {L"Area", "Un panel con título, fondo liso o degradado y bordes dibujados.",
+     "galeria-paneles.png"},
+    {L"Tbox", "Un campo de texto de una línea, con título y sombra.", "galeria-cajas.png"},
     {L"TBoxML", "Un campo de texto de varias líneas, con título y sombra.", nullptr},
     {L"TboxSS",
      "Un campo de texto de una línea, sin título ni sombra, con la selección a la vista del "
