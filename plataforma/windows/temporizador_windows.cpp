@@ -11,7 +11,7 @@ namespace {
 // Once the mouse rests it looks at once when the mouse leaves, and only now and then for what comes
 // between the mouse and the control without a move.
 constexpr std::int32_t Cuadro = 16;  // milliseconds
-constexpr std::int32_t Reposo = 250; // milliseconds
+constexpr std::int32_t Reposo = 100; // milliseconds
 constexpr int TicsHastaReposo = 10;
 
 struct EnMarcha {

@@ -79,6 +79,7 @@ TEST_CASE("A text box of the host's window keeps its keys while the mouse crosse
     CHECK(std::wstring(escrito) == L"a");
     b.Poner(L"FocoConMouse", true);
     b.Llevar(b.marco, 280, 10);
+    b.Esperar(200); // the watch on a mouse that had come to rest
     b.Llevar(b.ventana, 4, 6);
     CHECK(GetFocus() == b.ventana);
     b.Llevar(b.texto, 4, 6);
