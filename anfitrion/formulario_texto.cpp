@@ -45,10 +45,61 @@ std::wstring Entrecomillar(std::wstring_view texto) {
     return escrito + L"\"";
 }
 
+std::wstring EnHexadecimal(const BYTE* bytes, std::size_t largo) {
+    std::wstring escrito;
+    for (std::size_t i = 0; i < largo; ++i) {
+        escrito += Cifras[bytes[i] >> 4];
+        escrito += Cifras[bytes[i] & 15];
+    }
+    return escrito;
+}
+
+/// Bytes of an icon's colours, 32 bits for each pixel, and of its mask, rows of whole words.
+std::size_t BytesDeColores(int ancho, int alto) {
+    return static_cast<std::size_t>(ancho) * static_cast<std::size_t>(alto) * 4;
+}
+std::size_t BytesDeMascara(int ancho, int alto) {
+    return static_cast<std::size_t>((ancho + 15) / 16 * 2) * static_cast<std::size_t>(alto);
+}
+
+/// Icons are written pixel by pixel: not every platform saves their opacity. Empty when the picture
+/// is no icon, or one without colours.
+std::wstring EscribirIcono(IUnknown* objeto) {
+    Puntero<IPicture> imagen;
+    SHORT clase = PICTYPE_NONE;
+    OLE_HANDLE manija = 0;
+    ICONINFO partes{};
+    if (FAILED(objeto->QueryInterface(IID_PPV_ARGS(imagen.Recibir()))) ||
+        FAILED(imagen->get_Type(&clase)) || clase != PICTYPE_ICON ||
+        FAILED(imagen->get_Handle(&manija)) ||
+        !GetIconInfo(static_cast<HICON>(ULongToHandle(manija)), &partes))
+        return {};
+    std::wstring escrito;
+    BITMAP mapa{};
+    if (partes.fIcon && partes.hbmColor && GetObjectW(partes.hbmColor, sizeof mapa, &mapa)) {
+        const int ancho = mapa.bmWidth, alto = mapa.bmHeight;
+        std::vector<BYTE> colores(BytesDeColores(ancho, alto)), mascara(BytesDeMascara(ancho, alto));
+        BITMAPINFO info{{sizeof(BITMAPINFOHEADER), ancho, -alto, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
+        const HDC hdc = CreateCompatibleDC(nullptr);
+        GetDIBits(hdc, partes.hbmColor, 0, static_cast<UINT>(alto), colores.data(), &info,
+                  DIB_RGB_COLORS);
+        DeleteDC(hdc);
+        GetBitmapBits(partes.hbmMask, static_cast<LONG>(mascara.size()), mascara.data());
+        escrito = L"Icono " + std::to_wstring(ancho) + L" " + std::to_wstring(alto) + L" " +
+                  EnHexadecimal(colores.data(), colores.size()) +
+                  EnHexadecimal(mascara.data(), mascara.size());
+    }
+    DeleteObject(partes.hbmColor);
+    DeleteObject(partes.hbmMask);
+    return escrito;
+}
+
 /// The word for the object and its bytes; empty when it can't be saved.
 std::wstring EscribirObjeto(IUnknown* objeto) {
     if (!objeto)
         return L"Nothing";
+    if (std::wstring icono = EscribirIcono(objeto); !icono.empty())
+        return icono;
     Puntero<IPersistStream> guardable;
     Puntero<IStream> flujo;
     Puntero<IPicture> imagen;
@@ -63,10 +114,8 @@ std::wstring EscribirObjeto(IUnknown* objeto) {
     const bool esImagen = SUCCEEDED(objeto->QueryInterface(IID_PPV_ARGS(imagen.Recibir())));
     std::wstring escrito = esImagen ? L"Imagen " : L"Fuente ";
     const auto* bytes = static_cast<const BYTE*>(GlobalLock(memoria));
-    for (ULONGLONG i = 0; bytes && i < estado.cbSize.QuadPart; ++i) {
-        escrito += Cifras[bytes[i] >> 4];
-        escrito += Cifras[bytes[i] & 15];
-    }
+    if (bytes)
+        escrito += EnHexadecimal(bytes, static_cast<std::size_t>(estado.cbSize.QuadPart));
     GlobalUnlock(memoria);
     return escrito;
 }
@@ -187,6 +236,8 @@ class Lector {
             return static_cast<IDispatch*>(nullptr);
         if (escrito.size() >= 2 && escrito.front() == L'"' && escrito.back() == L'"')
             return Cadena(escrito.substr(1, escrito.size() - 2));
+        if (escrito.starts_with(L"Icono "))
+            return Icono(escrito.substr(6));
         if (escrito.starts_with(L"Fuente ") || escrito.starts_with(L"Imagen "))
             return Objeto(escrito.front() == L'I', escrito.substr(7));
         if (escrito.size() < 2)
@@ -231,7 +282,7 @@ class Lector {
         return cadena;
     }
 
-    Variante Objeto(bool esImagen, std::wstring_view escrito) const {
+    std::vector<BYTE> Bytes(std::wstring_view escrito) const {
         std::vector<BYTE> bytes;
         for (std::size_t i = 0; i < escrito.size(); ++i) {
             const wchar_t* cifra = std::wcschr(Cifras, escrito[i]);
@@ -243,6 +294,32 @@ class Lector {
             else
                 bytes.push_back(static_cast<BYTE>(valor << 4));
         }
+        return bytes;
+    }
+
+    Variante Icono(std::wstring_view escrito) const {
+        int lados[2] = {};
+        for (int& lado : lados) {
+            const std::size_t fin = std::min(escrito.find(L' '), escrito.size());
+            const double medida = Numero(std::wstring(escrito.substr(0, fin)));
+            if (!(medida >= 1 && medida <= 1024))
+                Fallar(L"la medida está fuera de rango");
+            lado = static_cast<int>(medida);
+            escrito.remove_prefix(std::min(fin + 1, escrito.size()));
+        }
+        const std::vector<BYTE> bytes = Bytes(escrito);
+        const std::size_t colores = BytesDeColores(lados[0], lados[1]);
+        if (bytes.size() != colores + BytesDeMascara(lados[0], lados[1]))
+            Fallar(L"los bytes del icono están dañados");
+        const HICON icono = CreateIcon(nullptr, lados[0], lados[1], 1, 32, bytes.data() + colores,
+                                       bytes.data());
+        if (!icono)
+            Fallar(L"los bytes del icono están dañados");
+        return static_cast<IDispatch*>(CrearImagen(icono).get());
+    }
+
+    Variante Objeto(bool esImagen, std::wstring_view escrito) const {
+        const std::vector<BYTE> bytes = Bytes(escrito);
         Puntero<IStream> flujo;
         Comprobar(CreateStreamOnHGlobal(nullptr, TRUE, flujo.Recibir()), "CreateStreamOnHGlobal");
         flujo->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);

@@ -8,7 +8,8 @@
 // One block per control: class, name, place (left, top, width, height in pixels of what it stands on)
 // and the keys of its property bag. Numbers carry their type behind them: % 16 bits, & 32 bits, ! and
 // # floating point, @ a byte. In texts a double quote and a backslash follow a backslash, and line ends
-// are \r and \n. Fonts and pictures are the bytes that they save of themselves.
+// are \r and \n. Fonts and pictures are the bytes that they save of
+// themselves, icons their pixels and their mask.
 #pragma once
 
 #include "anfitrion/formulario.h"

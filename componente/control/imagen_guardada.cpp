@@ -73,6 +73,67 @@ Bytes GuardarMetafichero(IPicture& imagen, HMETAFILE metafichero) {
     return bytes;
 }
 
+/// What an icon is drawn from; the bitmaps are copies and belong to us.
+struct PartesDeIcono : ICONINFO {
+    explicit PartesDeIcono(HICON icono) : ICONINFO{} { GetIconInfo(icono, this); }
+    PartesDeIcono(const PartesDeIcono&) = delete;
+    PartesDeIcono& operator=(const PartesDeIcono&) = delete;
+    ~PartesDeIcono() {
+        DeleteObject(hbmMask);
+        DeleteObject(hbmColor);
+    }
+};
+
+/// A file with one icon of 32 bits, whose colours carry their opacity, and its mask. Empty for what
+/// such a file can't hold: cursors, icons without colours, large ones.
+Bytes GuardarIcono(HICON icono) {
+    const PartesDeIcono partes(icono);
+    BITMAP mapa{};
+    if (!partes.fIcon || !partes.hbmColor || !partes.hbmMask ||
+        !GetObjectW(partes.hbmColor, sizeof mapa, &mapa) || mapa.bmWidth > 255 ||
+        mapa.bmHeight > 255)
+        return {};
+    const auto ancho = static_cast<std::size_t>(mapa.bmWidth);
+    const auto alto = static_cast<std::size_t>(mapa.bmHeight);
+    const std::size_t colores = ancho * alto * 4, mascara = (ancho + 31) / 32 * 4 * alto;
+    struct {
+        BITMAPINFOHEADER cabecera;
+        RGBQUAD paleta[2];
+    } info{{sizeof(BITMAPINFOHEADER), mapa.bmWidth, mapa.bmHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
+    const std::size_t imagen = sizeof info.cabecera + colores + mascara;
+    const DWORD entrada = 22; // of the list of icons, with the one that it has
+    const WORD lista[] = {0, 1, 1};
+    const BYTE lados[] = {static_cast<BYTE>(ancho), static_cast<BYTE>(alto), 0, 0};
+    const WORD planos[] = {1, 32};
+    const DWORD lugar[] = {static_cast<DWORD>(imagen), entrada};
+    Bytes bytes = ConCabecera(entrada + imagen);
+    std::uint8_t* a = bytes.data() + sizeof(Cabecera);
+    const auto escribir = [&a](const void* datos, std::size_t largo) {
+        std::memcpy(a, datos, largo);
+        a += largo;
+    };
+    escribir(lista, sizeof lista);
+    escribir(lados, sizeof lados);
+    escribir(planos, sizeof planos);
+    escribir(lugar, sizeof lugar);
+    BITMAPINFOHEADER doble = info.cabecera;
+    doble.biHeight *= 2; // the colours and the mask below them
+    escribir(&doble, sizeof doble);
+    const HDC hdc = CreateCompatibleDC(nullptr);
+    auto* const receptor = reinterpret_cast<BITMAPINFO*>(&info);
+    const UINT filas = static_cast<UINT>(alto);
+    bool bien = GetDIBits(hdc, partes.hbmColor, 0, filas, a, receptor, DIB_RGB_COLORS) != 0;
+    info.cabecera.biBitCount = 1;
+    info.cabecera.biCompression = BI_RGB;
+    info.cabecera.biSizeImage = 0;
+    bien = bien &&
+           GetDIBits(hdc, partes.hbmMask, 0, filas, a + colores, receptor, DIB_RGB_COLORS) != 0;
+    DeleteDC(hdc);
+    if (!bien)
+        throw FalloCom{E_UNEXPECTED};
+    return bytes;
+}
+
 Bytes GuardarPorSiMisma(IPersistStream* persistente) {
     Ptr<IStream> flujo;
     Exigir(CreateStreamOnHGlobal(nullptr, TRUE, flujo.Recibir()));
@@ -88,7 +149,8 @@ Bytes GuardarPorSiMisma(IPersistStream* persistente) {
 
 } // namespace
 
-// Not every picture object knows how to save a metafile, though all can load one.
+// Not every picture object knows how to save a metafile or the opacity of an icon, though all can load
+// them.
 Bytes GuardarImagen(const Imagen& imagen) {
     const auto disp = Ptr<IPictureDisp>::Adoptar(windows::DesenvolverImagen(imagen));
     const auto ole = Ptr<IPicture>::De(disp.get());
@@ -100,6 +162,9 @@ Bytes GuardarImagen(const Imagen& imagen) {
             return GuardarMetaficheroMejorado(static_cast<HENHMETAFILE>(h));
         if (clase == PICTYPE_METAFILE)
             return GuardarMetafichero(*ole.get(), static_cast<HMETAFILE>(h));
+        if (clase == PICTYPE_ICON)
+            if (Bytes bytes = GuardarIcono(static_cast<HICON>(h)); !bytes.empty())
+                return bytes;
     }
     return GuardarPorSiMisma(Ptr<IPersistStream>::De(disp.get()).get());
 }

@@ -115,8 +115,7 @@ class Victima {
         for (int paso = 1 + azar_.Menor(5); paso > 0 && b_.boton->Abierto(); --paso) {
             try {
                 Paso();
-            } catch (const FalloCom& fallo) {
-                CHECK(FAILED(fallo.estado));
+            } catch (const FalloCom&) { // a status, as it should be; anything else ends the test
             }
         }
         b_.forma->BombearMensajes();

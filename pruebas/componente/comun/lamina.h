@@ -36,6 +36,7 @@ class Lamina {
         DeleteObject(brocha);
     }
     COLORREF Pixel(int x, int y) const { return GetPixel(hdc_, x, y); }
+    HDC Hdc() const { return hdc_; }
     long Numero() const { return static_cast<long>(HandleToLong(hdc_)); }
 
   private:

@@ -1,5 +1,6 @@
 // The button in a stream and in a storage.
 #include "pruebas/componente/comun/boton.h"
+#include "pruebas/componente/comun/lamina.h"
 #include "pruebas/componente/persistencia/flujos.h"
 
 #include <doctest/doctest.h>
@@ -30,6 +31,44 @@ void CompararRetratos(const Boton& uno, const Boton& otro) {
 bool SeRechazan(const Boton& boton, const BytesDeFlujo& danados, const BytesDeFlujo& antes) {
     const HRESULT estado = Cargar(boton, danados);
     return FAILED(estado) && Guardar(boton) == antes;
+}
+
+/// Sixteen pixels each way: red on the left, half of a blue on the right above, nothing below it.
+Puntero<IPictureDisp> IconoConOpacidad() {
+    BITMAPINFO info{{sizeof(BITMAPINFOHEADER), 16, -16, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
+    void* bits = nullptr;
+    ICONINFO partes{};
+    partes.fIcon = TRUE;
+    partes.hbmColor = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    BYTE mascara[16 * 2] = {};
+    for (int i = 0; i < 256; ++i) {
+        const bool derecha = i % 16 >= 8, abajo = i >= 128;
+        static_cast<DWORD*>(bits)[i] = !derecha ? 0xFFFF0000 : abajo ? 0 : 0x800000FF;
+        if (derecha && abajo)
+            mascara[i / 8] = 0xFF;
+    }
+    partes.hbmMask = CreateBitmap(16, 16, 1, 1, mascara);
+    const HICON icono = CreateIconIndirect(&partes);
+    DeleteObject(partes.hbmColor);
+    DeleteObject(partes.hbmMask);
+    return anfitrion::CrearImagen(icono);
+}
+
+/// The pixels of the button's icon drawn on white.
+std::vector<COLORREF> SobreBlanco(const Boton& boton) {
+    const Variante valor = Leer(boton.get(), L"ImagNormal");
+    const auto imagen = Puntero<IUnknown>(valor.punkVal).Como<IPicture>();
+    REQUIRE(imagen);
+    OLE_HANDLE manejador = 0;
+    REQUIRE(imagen->get_Handle(&manejador) == S_OK);
+    Lamina lamina(16, 16);
+    lamina.Llenar({0, 0, 16, 16}, RGB(255, 255, 255));
+    REQUIRE(DrawIconEx(lamina.Hdc(), 0, 0, static_cast<HICON>(ULongToHandle(manejador)), 16, 16, 0,
+                       nullptr, DI_NORMAL));
+    std::vector<COLORREF> pixeles;
+    for (int i = 0; i < 256; ++i)
+        pixeles.push_back(lamina.Pixel(i % 16, i / 16));
+    return pixeles;
 }
 
 } // namespace
@@ -118,6 +157,19 @@ TEST_CASE("A picture keeps its pixels on its way through a stream") {
     CHECK(GetPixel(dc, 5, 5) == RGB(0xC8, 150, 200));
     SelectObject(dc, antes);
     DeleteDC(dc);
+}
+
+TEST_CASE("An icon keeps its colours, its opacity and its mask on its way through a stream") {
+    const Boton uno, otro;
+    PonerRef(uno.get(), L"ImagNormal", Variante(IconoConOpacidad().get()));
+    const std::vector<COLORREF> antes = SobreBlanco(uno);
+    CHECK(antes[1 * 16 + 1] == RGB(255, 0, 0));
+    CHECK(antes[14 * 16 + 14] == RGB(255, 255, 255));
+    REQUIRE(Cargar(otro, Guardar(uno)) == S_OK);
+    CHECK(SobreBlanco(otro) == antes);
+    const Boton tercero; // what was loaded is saved as well as what was made
+    REQUIRE(Cargar(tercero, Guardar(otro)) == S_OK);
+    CHECK(SobreBlanco(tercero) == antes);
 }
 
 TEST_CASE("The size of a button travels in its stream") {

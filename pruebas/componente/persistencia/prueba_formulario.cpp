@@ -2,7 +2,7 @@
 #include "anfitrion/formulario_texto.h"
 #include "anfitrion/imagenes.h"
 #include "anfitrion/tardio.h"
-#include "pruebas/componente/comun/publicado.h"
+#include "pruebas/componente/comun/boton.h"
 #include "pruebas/cada.h"
 
 #include <doctest/doctest.h>
@@ -58,6 +58,8 @@ TEST_CASE("A form written as text and read again is as it was") {
     PonerRef(b.forma->Control(L"UnArea")->Despacho(), L"Font",
              Variante(CrearFuente(L"Courier New", 14, true).get()));
     b.Poner(L"UnTboxSS", L"Text", L"uno\ttres");
+    PonerRef(b.forma->Control(L"UnBotonazo")->Despacho(), L"ImagSobre",
+             Variante(publicado::IconoDePrueba().get()));
     b.forma->Control(L"UnArea")->Mover({5, 60, 205, 160});
     const std::wstring texto = EscribirFormulario(*b.forma);
 
@@ -101,6 +103,8 @@ TEST_CASE("A text that is no form of this one says in which line, and changes no
         {L"Botonazo UnBotonazo 1 2 3 4\n  Caption = \"a\\\"\nFin\n", 2},
         {L"Botonazo UnBotonazo 1 2 3 4\n  Font = Fuente 0102\nFin\n", 2},
         {L"Botonazo UnBotonazo 1 2 3 4\n  Font = Fuente 01X\nFin\n", 2},
+        {L"Botonazo UnBotonazo 1 2 3 4\n  ImagNormal = Icono 1 1 0102\nFin\n", 2},
+        {L"Botonazo UnBotonazo 1 2 3 4\n  ImagNormal = Icono 0 9999 01\nFin\n", 2},
         {L"Botonazo UnBotonazo 1 2 3 4\n  ImagNormal = Imagen 0102\nFin\n", 2},
     };
     Banco b;
