@@ -1,11 +1,10 @@
 // Numbers written as text.
 #include "common/conversion.h"
+#include "common/decimal_exacto.h"
 
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
-#include <string_view>
 
 namespace pincela {
 namespace {
@@ -17,19 +16,10 @@ struct Cifras {
 };
 
 Cifras CifrasDe(double valor, int significativas) {
-    char escrito[48];
-    std::snprintf(escrito, sizeof escrito, "%.*e", significativas - 1, valor);
-    Cifras cifras;
-    // The point is skipped by its place: which character it is depends on the process.
-    const std::string_view vista(escrito);
-    const std::size_t e = vista.find('e');
-    for (std::size_t i = 0; i < e; ++i) {
-        if (vista[i] >= '0' && vista[i] <= '9')
-            cifras.digitos.push_back(static_cast<char16_t>(vista[i]));
-    }
-    cifras.exponente = std::atoi(escrito + e + 1);
-    cifras.digitos.erase(cifras.digitos.find_last_not_of(u'0') + 1);
-    return cifras;
+    DecimalExacto decimal = ExpandirDoble(valor);
+    decimal.Redondear(significativas);
+    const auto digitos = decimal.Digitos();
+    return {Texto(digitos.begin(), digitos.end()), decimal.exponente};
 }
 
 Texto EnNotacionCientifica(const Cifras& cifras) {

@@ -5,6 +5,7 @@
 // they stand after the first digit; the decimal separator; an exponent after E or D; or "&H", "&O"
 // and digits of that base, "&" allowed after them. No currency sign.
 #include "common/conversion.h"
+#include "common/decimal_exacto.h"
 #include "common/errores.h"
 
 #include <algorithm>
@@ -84,8 +85,8 @@ Patron LeerPatron(Lector& lector) {
     return {static_cast<std::uint32_t>(bits), lector.Tomar(u'&')};
 }
 
-/// The decimal digits of a number, gathered as a whole number and a power of ten: no separator is left
-/// that the standard library would read in its own way.
+/// The decimal digits of a number, gathered as a whole number and a power of ten: no separator is
+/// left that the standard library would read in its own way.
 class Decimales {
   public:
     /// Digits, separators and exponent, as far as they go. False when there is no digit.
@@ -155,8 +156,7 @@ void Decimales::LeerExponente(Lector& lector, bool soloCompleto) {
 double Decimales::Valor() const {
     if (digitos_.empty())
         return 0;
-    const std::string escrito = digitos_ + 'e' + std::to_string(exponente_ - decimales_);
-    const double valor = std::strtod(escrito.c_str(), nullptr);
+    const double valor = DobleMasCercano(digitos_, exponente_ - decimales_);
     if (std::isinf(valor))
         Lanzar(NumeroError::Desbordamiento);
     return valor;
