@@ -15,6 +15,13 @@ const MiembroTardio* ClasePublicada::Buscar(DISPID dispid) const {
     return nullptr;
 }
 
+void MiembroTardio::Leer(const ControlUsuario& control, VARIANT& valor) const {
+    if (tipo.vt == VT_VARIANT)
+        return acceso->Leer(control, &valor);
+    acceso->Leer(control, &V_BYREF(&valor));
+    V_VT(&valor) = tipo.vt;
+}
+
 HRESULT detalle::EntrarCon(InterfazDual* yo, void (*accion)(void*), void* datos) noexcept {
     const Sosten sosten(yo->objeto);
     return Proteger(*yo->clase->datos, [&] {
@@ -23,6 +30,24 @@ HRESULT detalle::EntrarCon(InterfazDual* yo, void (*accion)(void*), void* datos)
         accion(datos);
         return S_OK;
     });
+}
+
+HRESULT detalle::LeerPropiedad(InterfazDual* yo, std::size_t miembro, void* salida) noexcept {
+    if (!salida)
+        return E_POINTER;
+    const Acceso& acceso = *yo->clase->miembros[miembro].acceso;
+    std::memset(salida, 0, acceso.tamanio);
+    return Entrar(yo, [&] { acceso.Leer(NucleoDe<ControlUsuario>(yo), salida); });
+}
+
+HRESULT detalle::PonerPropiedad(InterfazDual* yo, std::size_t miembro, const void* valor) noexcept {
+    const Acceso& acceso = *yo->clase->miembros[miembro].acceso;
+    if (acceso.porReferencia) {
+        std::memcpy(&valor, valor, sizeof valor);
+        if (!valor)
+            return E_POINTER;
+    }
+    return Entrar(yo, [&] { acceso.Poner(NucleoDe<ControlUsuario>(yo), valor); });
 }
 
 namespace base {
@@ -173,7 +198,19 @@ HRESULT STDMETHODCALLTYPE Invoke(InterfazDual* yo, DISPID dispid, REFIID iid, LC
     try {
         if (yo->preparar)
             yo->preparar(*yo);
-        return m->invocar(*yo, poner, argumentos, resultado);
+        if (!m->acceso)
+            return m->invocar(*yo, argumentos, resultado);
+        auto& control = detalle::NucleoDe<ControlUsuario>(yo);
+        if (!poner)
+            argumentos.convertidos = true;
+        if (poner)
+            m->acceso->PonerTardio(control, DesdeVariant(*argumentos.valores[0]),
+                                   argumentos.convertidos);
+        else if (resultado)
+            m->Leer(control, *resultado);
+        else
+            m->Leer(control, *VarianteCom().Recibir());
+        return S_OK;
     } catch (const ErrorEjecucion& error) {
         if (!argumentos.convertidos) {
             if (equivocado)

@@ -5,7 +5,7 @@
 // the arguments, calls the core and turns an error into a status.
 #pragma once
 
-#include "componente/abi.h"
+#include "componente/acceso.h"
 #include "componente/clases.h"
 #include "componente/errores_com.h"
 
@@ -35,9 +35,13 @@ struct MiembroTardio {
     Categoria categoria;
     const Parametro* parametros;
     unsigned cuantos;
-    /// `resultado` may be null.
-    HRESULT (*invocar)
-    (InterfazDual& yo, bool poner, ArgumentosTardios& argumentos, VARIANT* resultado);
+    const Acceso* acceso; // of a property
+    /// Of a method. `resultado` may be null.
+    HRESULT(*invocar)
+    (InterfazDual& yo, ArgumentosTardios& argumentos, VARIANT* resultado);
+
+    /// Value of a property; `valor` comes empty.
+    void Leer(const ControlUsuario& control, VARIANT& valor) const;
 };
 
 struct ClasePublicada {
@@ -52,7 +56,7 @@ struct ClasePublicada {
 struct InterfazDual {
     const void* const* tabla;
     IUnknown* objeto; // the object this is part of; not counted
-    void* nucleo;
+    void* nucleo;     // of a control, its ControlUsuario
     const ClasePublicada* clase;
     /// Called before the first use of the members when not null: brings to life an object that its
     /// container never initialised. Throws.
@@ -72,7 +76,6 @@ HRESULT STDMETHODCALLTYPE GetTypeInfo(InterfazDual*, UINT, LCID, ITypeInfo**);
 HRESULT STDMETHODCALLTYPE GetIDsOfNames(InterfazDual*, REFIID, LPOLESTR*, UINT, LCID, DISPID*);
 HRESULT STDMETHODCALLTYPE Invoke(InterfazDual*, DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*,
                                  EXCEPINFO*, UINT*);
-inline constexpr std::size_t Cuantas = 7;
 } // namespace base
 
 namespace detalle {
@@ -100,7 +103,10 @@ HRESULT Entrar(InterfazDual* yo, F f) noexcept {
 
 template <class C>
 C& NucleoDe(InterfazDual* yo) {
-    return *static_cast<C*>(yo->nucleo);
+    if constexpr (std::is_base_of_v<ControlUsuario, C>)
+        return static_cast<C&>(*static_cast<ControlUsuario*>(yo->nucleo));
+    else
+        return *static_cast<C*>(yo->nucleo);
 }
 
 /// Value of a late-bound argument; `argumentos.equivocado` names it while it converts.
@@ -132,63 +138,21 @@ inline auto TomarArgumento<const tRectRedo&>(ArgumentosTardios& argumentos, unsi
     return *static_cast<const tRectRedo*>(V_RECORD(v));
 }
 
-// What the functions of a property do, once for each kind of value: there are hundreds of properties.
+// There are hundreds of properties: what their functions do is written once, and those of the
+// virtual table only tell which member of its class they stand for.
 
-template <class Nucleo, class Valor, class L>
-[[gnu::noinline]] HRESULT LeerCon(InterfazDual* yo, typename Abi<Valor>::Tipo* salida, L leer) {
-    if (!salida)
-        return E_POINTER;
-    *salida = typename Abi<Valor>::Tipo{};
-    return Entrar(yo, [&] { *salida = Abi<Valor>::Salir((NucleoDe<Nucleo>(yo).*leer)()); });
+HRESULT LeerPropiedad(InterfazDual* yo, std::size_t miembro, void* salida) noexcept;
+/// `valor` points to the argument as it was passed.
+HRESULT PonerPropiedad(InterfazDual* yo, std::size_t miembro, const void* valor) noexcept;
+
+template <std::size_t Miembro>
+HRESULT STDMETHODCALLTYPE Leer(InterfazDual* yo, void* salida) {
+    return LeerPropiedad(yo, Miembro, salida);
 }
-
-template <class Nucleo, class P, class F>
-[[gnu::noinline]] HRESULT PonerCon(InterfazDual* yo, ParametroAbi<P> valor, F poner) {
-    if (EsPunteroNulo<P>(valor))
-        return E_POINTER;
-    return Entrar(yo, [&] { (NucleoDe<Nucleo>(yo).*poner)(EntrarParametro<P>(valor)); });
+template <std::size_t Miembro, class Argumento>
+HRESULT STDMETHODCALLTYPE Poner(InterfazDual* yo, Argumento valor) {
+    return PonerPropiedad(yo, Miembro, &valor);
 }
-
-template <class Nucleo, class Valor, class L>
-[[gnu::noinline]] void LeerTardia(InterfazDual& yo, ArgumentosTardios& argumentos,
-                                  VARIANT* resultado, L leer) {
-    argumentos.convertidos = true;
-    const auto valor = Abi<Valor>::AVariante((NucleoDe<Nucleo>(&yo).*leer)());
-    if (resultado)
-        HaciaVariant(valor, resultado);
-}
-
-template <class Nucleo, class Valor, class F>
-[[gnu::noinline]] void PonerTardia(InterfazDual& yo, ArgumentosTardios& argumentos, F poner) {
-    auto valor = TomarArgumento<Valor>(argumentos, 0, Parametro{nullptr});
-    argumentos.convertidos = true;
-    (NucleoDe<Nucleo>(&yo).*poner)(std::move(valor));
-}
-
-// Functions of one property.
-template <class Nucleo, class M>
-struct FuncionesDePropiedad {
-    using Valor = typename M::Valor;
-    using Salida = typename Abi<Valor>::Tipo;
-
-    static HRESULT STDMETHODCALLTYPE Leer(InterfazDual* yo, Salida* salida) {
-        return LeerCon<Nucleo, Valor>(yo, salida, M::Leer);
-    }
-
-    template <class P>
-    static HRESULT STDMETHODCALLTYPE Poner(InterfazDual* yo, ParametroAbi<P> valor) {
-        return PonerCon<Nucleo, P>(yo, valor, M::Poner);
-    }
-
-    static HRESULT Tardia(InterfazDual& yo, bool poner, ArgumentosTardios& argumentos,
-                          VARIANT* resultado) {
-        if (!poner)
-            LeerTardia<Nucleo, Valor>(yo, argumentos, resultado, M::Leer);
-        else if constexpr (M::SeEscribe)
-            PonerTardia<Nucleo, Valor>(yo, argumentos, M::Poner);
-        return S_OK;
-    }
-};
 
 // Functions of one method.
 template <class Nucleo, class M, class Argumentos = typename FirmaDe<M::Funcion>::Argumentos>
@@ -241,52 +205,68 @@ struct FuncionesDeMetodo<Nucleo, M, std::tuple<P...>> {
 };
 
 template <class Tabla, std::size_t I>
-HRESULT TardiaDeMetodo(InterfazDual& yo, bool, ArgumentosTardios& argumentos, VARIANT* resultado) {
+HRESULT TardiaDeMetodo(InterfazDual& yo, ArgumentosTardios& argumentos, VARIANT* resultado) {
     constexpr auto& m = std::get<I>(Tabla::miembros);
     using M = std::remove_cvref_t<decltype(m)>;
     return FuncionesDeMetodo<typename Tabla::Nucleo, M>::TardiaDe(m, yo, argumentos, resultado);
 }
 
-template <class Tabla>
-constexpr std::size_t CuantasRanuras() {
-    std::size_t n = 0;
-    ParaCadaMiembro<Tabla>([&]<class M>(const M&, auto) { n += M::Ranuras; });
-    return n;
-}
-
-template <class F>
-const void* Funcion(F* f) {
-    return reinterpret_cast<const void*>(f);
-}
-
-template <class Tabla>
-struct TablaDeFunciones {
-    const void* funciones[base::Cuantas + CuantasRanuras<Tabla>()];
-
-    TablaDeFunciones() {
-        const void* heredadas[] = {Funcion(base::QueryInterface), Funcion(base::AddRef),
-                                   Funcion(base::Release),        Funcion(base::GetTypeInfoCount),
-                                   Funcion(base::GetTypeInfo),    Funcion(base::GetIDsOfNames),
-                                   Funcion(base::Invoke)};
-        const void** siguiente = std::copy(std::begin(heredadas), std::end(heredadas), funciones);
-        ParaCadaMiembro<Tabla>([&]<class M>(const M&, auto) {
-            using Nucleo = typename Tabla::Nucleo;
-            if constexpr (M::TieneValor) {
-                using F = FuncionesDePropiedad<Nucleo, M>;
-                *siguiente++ = Funcion(F::Leer);
-                if constexpr (M::SeEscribe) {
-                    using P = std::tuple_element_t<0, typename FirmaDe<M::Poner>::Argumentos>;
-                    *siguiente++ = Funcion(F::template Poner<P>);
-                }
-            } else {
-                using F = FuncionesDeMetodo<Nucleo, M>;
-                if constexpr (std::is_void_v<typename F::Resultado>)
-                    *siguiente++ = Funcion(F::LlamarSinResultado);
-                else
-                    *siguiente++ = Funcion(F::template Llamar<typename F::Resultado>);
-            }
-        });
+/// Function of the virtual table for member `I`: what reads or calls it, or what assigns it.
+template <class Tabla, std::size_t I, bool EsPoner>
+constexpr auto FuncionDe() {
+    using M = std::tuple_element_t<I, std::remove_cvref_t<decltype(Tabla::miembros)>>;
+    if constexpr (EsPoner) {
+        using P = std::tuple_element_t<0, typename FirmaDe<M::Poner>::Argumentos>;
+        return &Poner<I, Portador<ParametroAbi<P>>>;
+    } else if constexpr (M::TieneValor) {
+        return &Leer<I>;
+    } else {
+        using F = FuncionesDeMetodo<typename Tabla::Nucleo, M>;
+        if constexpr (std::is_void_v<typename F::Resultado>)
+            return &F::LlamarSinResultado;
+        else
+            return &F::template Llamar<typename F::Resultado>;
     }
+}
+
+/// Which member each slot belongs to, and whether it assigns it.
+struct Ranura {
+    std::size_t miembro;
+    bool esPoner;
+};
+template <class Tabla>
+constexpr auto RanurasDe() {
+    constexpr std::size_t cuantas = [] {
+        std::size_t n = 0;
+        ParaCadaMiembro<Tabla>([&]<class M>(const M&, auto) { n += M::Ranuras; });
+        return n;
+    }();
+    std::array<Ranura, cuantas> ranuras{};
+    std::size_t n = 0;
+    ParaCadaMiembro<Tabla>([&]<class M>(const M&, auto indice) {
+        for (std::size_t i = 0; i < M::Ranuras; ++i)
+            ranuras[n++] = {indice, i == 1};
+    });
+    return ranuras;
+}
+
+template <class Tabla, class = std::make_index_sequence<RanurasDe<Tabla>().size()>>
+struct TablaDeFunciones;
+template <class Tabla, std::size_t... R>
+struct TablaDeFunciones<Tabla, std::index_sequence<R...>> {
+    static constexpr auto ranuras = RanurasDe<Tabla>();
+    template <std::size_t I>
+    static constexpr auto funcion = FuncionDe<Tabla, ranuras[I].miembro, ranuras[I].esPoner>();
+
+    static inline const void* const funciones[] = {
+        reinterpret_cast<const void*>(&base::QueryInterface),
+        reinterpret_cast<const void*>(&base::AddRef),
+        reinterpret_cast<const void*>(&base::Release),
+        reinterpret_cast<const void*>(&base::GetTypeInfoCount),
+        reinterpret_cast<const void*>(&base::GetTypeInfo),
+        reinterpret_cast<const void*>(&base::GetIDsOfNames),
+        reinterpret_cast<const void*>(&base::Invoke),
+        reinterpret_cast<const void*>(funcion<R>)...};
 };
 
 template <class Tabla, std::size_t I>
@@ -303,10 +283,12 @@ constexpr MiembroTardio DescribirTardio() {
                 m.rasgos.categoria,
                 nullptr,
                 0,
-                &FuncionesDePropiedad<typename Tabla::Nucleo, M>::Tardia};
+                &AccesoA<M>,
+                nullptr};
     } else {
-        return {m.rasgos.nombre,    DispidDe<Tabla, I>(), {},        DISPATCH_METHOD,
-                m.rasgos.categoria, m.parametros.data(),  M::Aridad, &TardiaDeMetodo<Tabla, I>};
+        return {m.rasgos.nombre,          DispidDe<Tabla, I>(), {},        DISPATCH_METHOD,
+                m.rasgos.categoria,       m.parametros.data(),  M::Aridad, nullptr,
+                &TardiaDeMetodo<Tabla, I>};
     }
 }
 
@@ -320,13 +302,14 @@ constexpr auto DescribirTardios() {
 
 } // namespace detalle
 
-/// The class as objects of it are published; one for the process.
-template <class Tabla>
-const ClasePublicada& Publicar(const DatosClase& datos) {
-    static const detalle::TablaDeFunciones<Tabla> funciones;
+/// The class as objects of it are published.
+template <class Tabla, const DatosClase& Datos>
+struct Publicacion {
     static constexpr auto miembros = detalle::DescribirTardios<Tabla>();
-    static const ClasePublicada clase{&datos, funciones.funciones, miembros};
-    return clase;
-}
+    static constexpr ClasePublicada clase{&Datos, detalle::TablaDeFunciones<Tabla>::funciones,
+                                          miembros};
+};
+template <class Tabla, const DatosClase& Datos>
+inline constexpr const ClasePublicada& Publicada = Publicacion<Tabla, Datos>::clase;
 
 } // namespace pincela::componente

@@ -5,7 +5,7 @@
 namespace pincela::componente {
 
 ObjetoEfectos::ObjetoEfectos() : efectos_(windows::GraficosDeWindows()) {
-    const ClasePublicada& clase = Publicar<TablaEfectos>(DatosEfectos);
+    const ClasePublicada& clase = Publicada<TablaEfectos, DatosEfectos>;
     interfaz_ = {clase.tabla, static_cast<ISupportErrorInfo*>(this), &efectos_, &clase};
 }
 

@@ -88,13 +88,11 @@ HRESULT ObjetoControl::LeerMiembro(DISPID dispid, Variante& valor) {
     const MiembroTardio* miembro = clase_.Buscar(dispid);
     if (!miembro || !(miembro->admite & DISPATCH_PROPERTYGET))
         return DISP_E_MEMBERNOTFOUND;
-    ArgumentosTardios ninguno;
     VarianteCom v;
     Preparar();
-    const HRESULT estado = miembro->invocar(interfaz_, false, ninguno, &v);
-    if (SUCCEEDED(estado))
-        valor = DesdeVariant(v);
-    return estado;
+    miembro->Leer(*Nucleo(), *v.Recibir());
+    valor = DesdeVariant(v);
+    return S_OK;
 }
 
 HRESULT ObjetoControl::GetDisplayString(DISPID dispid, BSTR* texto) {

@@ -25,8 +25,8 @@ ObjetoControl::~ObjetoControl() {
         DestroyAcceleratorTable(aceleradores_);
 }
 
-void ObjetoControl::Nacer(void* nucleo) {
-    interfaz_ = {clase_.tabla, Identidad(), nucleo, &clase_};
+void ObjetoControl::Nacer() {
+    interfaz_ = {clase_.tabla, Identidad(), Nucleo(), &clase_};
     interfaz_.preparar = [](InterfazDual& yo) {
         static_cast<ObjetoControl*>(static_cast<IOleObject*>(yo.objeto))->Preparar();
     };

@@ -24,6 +24,25 @@
 
 namespace pincela::componente {
 
+/// An event goes out with references to the caller's variables. A boolean has another width out
+/// there, so it travels through a copy that is brought back.
+template <class T>
+void SacarArgumento(T& valor, VARIANTARG& v, VARIANT_BOOL& copia) {
+    VariantInit(&v);
+    V_VT(&v) = static_cast<VARTYPE>(TipoDe<T>().vt | VT_BYREF);
+    if constexpr (std::is_same_v<T, bool>) {
+        copia = HaciaBool(valor);
+        V_BYREF(&v) = &copia;
+    } else {
+        V_BYREF(&v) = &valor;
+    }
+}
+template <class T>
+void TraerArgumento(T& valor, VARIANT_BOOL copia) {
+    if constexpr (std::is_same_v<T, bool>)
+        valor = copia != VARIANT_FALSE;
+}
+
 class ObjetoControl : public IOleObject,
                       public IOleControl,
                       public IOleInPlaceObject,
@@ -179,11 +198,26 @@ class ObjetoControl : public IOleObject,
     /// The core, made by the class that derives from this one; null while it is being destroyed.
     virtual ControlUsuario* Nucleo() = 0;
     /// Called at the end of the constructor and at the start of the destructor of that class.
-    void Nacer(void* nucleo);
+    void Nacer();
     void Morir();
 
     /// Raises an event at every sink. `argumentos` come backwards, as the interface wants them.
     void RaiseEvent(DISPID evento, VARIANTARG* argumentos, unsigned cuantos);
+
+    /// What the core raises through `evento` goes out as number `numero`.
+    template <class... A>
+    void Conectar(Evento<A...>& evento, DISPID numero) {
+        evento.Conectar([this, numero](A&... argumentos) {
+            constexpr std::size_t cuantos = sizeof...(A);
+            VARIANTARG v[cuantos + 1]; // never of length 0
+            [[maybe_unused]] VARIANT_BOOL copias[cuantos + 1];
+            [[maybe_unused]] std::size_t lugar = cuantos; // they go backwards
+            ((--lugar, SacarArgumento(argumentos, v[lugar], copias[lugar])), ...);
+            RaiseEvent(numero, v, cuantos);
+            lugar = cuantos;
+            ((--lugar, TraerArgumento(argumentos, copias[lugar])), ...);
+        });
+    }
 
     windows::EntornoWindows entorno_;
 

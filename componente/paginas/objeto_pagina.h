@@ -93,7 +93,7 @@ template <class Tabla, const DatosClase& Datos, class TablaEditada, const DatosC
 class PaginaPublicada final : public ObjetoPagina {
   public:
     explicit PaginaPublicada(const windows::DisenoPagina& diseno)
-        : ObjetoPagina(Publicar<Tabla>(Datos), Publicar<TablaEditada>(DatosEditada), diseno),
+        : ObjetoPagina(Publicada<Tabla, Datos>, Publicada<TablaEditada, DatosEditada>, diseno),
           nucleo_(ventana_) {
         Nacer(&nucleo_);
     }
