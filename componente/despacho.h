@@ -33,8 +33,8 @@ struct MiembroTardio {
     Tipo tipo;   // of a property
     WORD admite; // DISPATCH_METHOD, or PROPERTYGET with PROPERTYPUT | PROPERTYPUTREF
     Categoria categoria;
+    std::uint8_t cuantos; // parameters
     const Parametro* parametros;
-    unsigned cuantos;
     const Acceso* acceso; // of a property
     /// Of a method. `resultado` may be null.
     HRESULT(*invocar)
@@ -281,13 +281,19 @@ constexpr MiembroTardio DescribirTardio() {
                 TipoDe<typename M::Valor>(),
                 static_cast<WORD>(DISPATCH_PROPERTYGET | poner),
                 m.rasgos.categoria,
-                nullptr,
                 0,
+                nullptr,
                 &AccesoA<M>,
                 nullptr};
     } else {
-        return {m.rasgos.nombre,          DispidDe<Tabla, I>(), {},        DISPATCH_METHOD,
-                m.rasgos.categoria,       m.parametros.data(),  M::Aridad, nullptr,
+        return {m.rasgos.nombre,
+                DispidDe<Tabla, I>(),
+                {},
+                DISPATCH_METHOD,
+                m.rasgos.categoria,
+                std::uint8_t{M::Aridad},
+                m.parametros.data(),
+                nullptr,
                 &TardiaDeMetodo<Tabla, I>};
     }
 }

@@ -15,7 +15,7 @@
 namespace pincela::componente {
 
 /// Groups of the property browser.
-enum class Categoria { Ninguna, Apariencia, Datos, Fuente, Comportamiento, Otras };
+enum class Categoria : std::uint8_t { Ninguna, Apariencia, Datos, Fuente, Comportamiento, Otras };
 
 /// Class, result and parameters of a member function.
 template <class F>

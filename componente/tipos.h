@@ -17,10 +17,17 @@
 namespace pincela::componente {
 
 /// What the type library says of a parameter or result.
-enum class Familia { Simple, Enumeracion, Registro, ColorOle, ObjetoFuente, ObjetoImagen };
+enum class Familia : std::uint8_t {
+    Simple,
+    Enumeracion,
+    Registro,
+    ColorOle,
+    ObjetoFuente,
+    ObjetoImagen
+};
 
 /// Which enumeration, in the order of the type library.
-enum class CualEnumeracion {
+enum class CualEnumeracion : std::uint8_t {
     TBack,
     TText,
     TSombra,

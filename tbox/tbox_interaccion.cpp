@@ -60,6 +60,14 @@ bool Tbox::CursorEncima() {
     return ventana != 0 && (ventana == superficie().hWnd() || ventana == txtTexto->hWnd());
 }
 
+// A form that is being designed has no events, so nobody is told that the mouse left.
+void Tbox::UserModeChanged() {
+    Timer->PonEnabled(false);
+    m_EstaSobre = false;
+    if (!txtTexto->EsActivo())
+        ActualizarColores(false);
+}
+
 void Tbox::GotFocus() {
     ActualizarColores(true);
 }

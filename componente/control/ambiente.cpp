@@ -60,7 +60,7 @@ void ObjetoControl::CambioDeFuenteAmbiente() {
     const AtributosFuente anterior = *fuenteAmbiente_;
     const Fuente nueva = AmbientFont();
     if (!(nueva->Atributos() == anterior))
-        Nucleo()->AmbientFontChanged(anterior, nueva);
+        nucleo_->AmbientFontChanged(anterior, nueva);
 }
 
 HRESULT ObjetoControl::GetControlInfo(CONTROLINFO* info) {
@@ -71,7 +71,7 @@ HRESULT ObjetoControl::GetControlInfo(CONTROLINFO* info) {
     info->hAccel = aceleradores_;
     info->cAccel =
         static_cast<USHORT>(aceleradores_ ? CopyAcceleratorTableW(aceleradores_, nullptr, 0) : 0);
-    comeEnter_ = Nucleo()->ComeEnter();
+    comeEnter_ = nucleo_->ComeEnter();
     info->dwFlags = comeEnter_ ? CTRLINFO_EATS_RETURN : 0;
     return S_OK;
 }
@@ -95,7 +95,7 @@ void ObjetoControl::AccessKeysChanged() {
 HRESULT ObjetoControl::OnMnemonic(MSG* mensaje) {
     return Guardar([&] {
         if (UserMode() && vida_ == Vida::Viva)
-            Nucleo()->AccessKeyPress(
+            nucleo_->AccessKeyPress(
                 static_cast<std::int16_t>(mensaje ? mensaje->wParam & 0x7FFF : 0));
         return S_OK;
     });
@@ -118,11 +118,11 @@ HRESULT ObjetoControl::OnAmbientPropertyChange(DISPID dispid) {
         if (es(DISPID_AMBIENT_FONT))
             CambioDeFuenteAmbiente();
         if (es(DISPID_AMBIENT_DISPLAYASDEFAULT) && DisplayAsDefault() != eraPorDefecto)
-            Nucleo()->AmbientChanged();
+            nucleo_->AmbientChanged();
         // A mode that nobody has asked for can't have begun anything.
         if (es(DISPID_AMBIENT_USERMODE) && eraModoUsuario >= 0 &&
             UserMode() != (eraModoUsuario > 0))
-            Nucleo()->UserModeChanged();
+            nucleo_->UserModeChanged();
         // What is transparent shows the container's colours.
         if (es(DISPID_AMBIENT_BACKCOLOR) && entorno_.Ventana())
             InvalidateRect(entorno_.Ventana(), nullptr, FALSE);

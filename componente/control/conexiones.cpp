@@ -89,7 +89,7 @@ void ObjetoControl::PropertyChanged(VistaTexto clave) {
     // A key that no published property bears still tells that something changed.
     const MiembroTardio* miembro = MiembroConNombre(clave);
     AvisarCambio(miembro ? miembro->dispid : DISPID_UNKNOWN);
-    if (!cerrando_ && sitioDeControl_ && Nucleo()->ComeEnter() != comeEnter_)
+    if (!cerrando_ && sitioDeControl_ && nucleo_->ComeEnter() != comeEnter_)
         Ptr<IOleControlSite>(sitioDeControl_)->OnControlInfoChanged();
 }
 

@@ -44,7 +44,7 @@ HRESULT ObjetoControl::Activar(bool conFoco, HWND padre, const RECT* lugar) {
         NucleoSeguro([](ControlUsuario& nucleo) { nucleo.Show(); });
     }
     // A failing status would be fatal for some containers; the others see who is active.
-    return conFoco && activoEnSitio_ && Nucleo()->AceptaFoco() ? ActivarInterfaz() : S_OK;
+    return conFoco && activoEnSitio_ && nucleo_->AceptaFoco() ? ActivarInterfaz() : S_OK;
 }
 
 HRESULT ObjetoControl::ActivarInterfaz() {
@@ -193,7 +193,7 @@ HRESULT ObjetoControl::TranslateAccelerator(MSG* mensaje) {
         return E_POINTER;
     return Guardar([&]() -> HRESULT {
         if (entorno_.EsCampo(mensaje->hwnd) && !EntradaCongelada() &&
-            EsDelCampo(*mensaje, Nucleo()->ComeEnter())) {
+            EsDelCampo(*mensaje, nucleo_->ComeEnter())) {
             TranslateMessage(mensaje);
             DispatchMessageW(mensaje);
             return S_OK;
@@ -230,7 +230,7 @@ HRESULT ObjetoControl::EnableModeless(BOOL) {
 }
 
 void ObjetoControl::PedirFoco() {
-    if (!activoEnSitio_ || EntradaCongelada() || !Nucleo()->AceptaFoco())
+    if (!activoEnSitio_ || EntradaCongelada() || !nucleo_->AceptaFoco())
         return;
     ActivarInterfaz();
     if (activoEnSitio_ && !entorno_.TieneFoco())

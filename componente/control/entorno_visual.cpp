@@ -69,7 +69,7 @@ bool ObjetoControl::Mensaje(HWND ventana, UINT mensaje, WPARAM w, LPARAM l, LRES
         PonPppDe(ventana);
         if (vida_ == Vida::Viva) {
             extension_ = AHimetric(entorno_.Tamano());
-            Nucleo()->Resize();
+            nucleo_->Resize();
         }
         return false;
     default:
@@ -123,7 +123,7 @@ ObjetoAccesible* ObjetoControl::DarAccesibleDeCampo(HWND ventana) {
 ObjetoAccesible* ObjetoControl::DarAccesible(HWND ventana) {
     if (entorno_.EsCampo(ventana))
         return DarAccesibleDeCampo(ventana);
-    if (vida_ != Vida::Viva || Nucleo()->Describir().papel == Accesible::Papel::Ninguno)
+    if (vida_ != Vida::Viva || nucleo_->Describir().papel == Accesible::Papel::Ninguno)
         return nullptr;
     if (!accesible_) {
         Ptr<IAccessible> estandar = EstandarDe(ventana);
@@ -131,7 +131,7 @@ ObjetoAccesible* ObjetoControl::DarAccesible(HWND ventana) {
             return nullptr;
         accesible_ = Ptr<ObjetoAccesible>::Adoptar(new ObjetoAccesible(
             std::move(estandar),
-            {[this] { return Nucleo()->Describir(); }, [this] { return conFoco_; },
+            {[this] { return nucleo_->Describir(); }, [this] { return conFoco_; },
              [this] {
                  detalle::Sosten sosten(Identidad());
                  NucleoSeguro([](ControlUsuario& n) { n.AccionPorDefecto(); });
@@ -145,7 +145,7 @@ void ObjetoControl::AccesibleCambiado() {
     const HWND ventana = entorno_.Ventana();
     if (vida_ != Vida::Viva || cerrando_ || !ventana)
         return;
-    const Accesible ahora = Nucleo()->Describir();
+    const Accesible ahora = nucleo_->Describir();
     if (ahora.papel == Accesible::Papel::Ninguno)
         return;
     const Accesible antes = std::exchange(descrito_, ahora);

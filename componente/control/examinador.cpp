@@ -90,7 +90,7 @@ HRESULT ObjetoControl::LeerMiembro(DISPID dispid, Variante& valor) {
         return DISP_E_MEMBERNOTFOUND;
     VarianteCom v;
     Preparar();
-    miembro->Leer(*Nucleo(), *v.Recibir());
+    miembro->Leer(*nucleo_, *v.Recibir());
     valor = DesdeVariant(v);
     return S_OK;
 }

@@ -10,30 +10,23 @@ constexpr GUID IidCategorizar = "{4D07FC10-F931-11CE-B001-00AA006884E5}"_guid;
 
 } // namespace
 
-ObjetoControl::ObjetoControl(const ClasePublicada& clase)
-    : entorno_(static_cast<windows::SitioControl&>(*this)), clase_(clase),
+ObjetoControl::ObjetoControl(const ClasePublicada& clase, HacedorDeNucleo hacer)
+    : clase_(clase), entorno_(static_cast<windows::SitioControl&>(*this)),
       eventos_(Identidad(), this, clase.datos->eventos),
       notificaciones_(Identidad(), this, IID_IPropertyNotifySink) {
     windows::LeerRegional();
     PonPppDe(nullptr);
     entorno_.PonTamano(clase.datos->tamanio, false);
     extension_ = AHimetric(clase.datos->tamanio);
-}
-
-ObjetoControl::~ObjetoControl() {
-    if (aceleradores_)
-        DestroyAcceleratorTable(aceleradores_);
-}
-
-void ObjetoControl::Nacer() {
-    interfaz_ = {clase_.tabla, Identidad(), Nucleo(), &clase_};
+    nucleo_ = hacer(*this, entorno_);
+    interfaz_ = {clase_.tabla, Identidad(), nucleo_.get(), &clase_};
     interfaz_.preparar = [](InterfazDual& yo) {
         static_cast<ObjetoControl*>(static_cast<IOleObject*>(yo.objeto))->Preparar();
     };
-    entorno_.Asociar(Nucleo());
+    entorno_.Asociar(nucleo_.get());
 }
 
-void ObjetoControl::Morir() {
+ObjetoControl::~ObjetoControl() {
     // A container that never closed the control releases it while the window still stands.
     cerrando_ = true;
     for (const auto& accesible : {accesible_, accesibleDeCampo_})
@@ -42,12 +35,15 @@ void ObjetoControl::Morir() {
     entorno_.Asociar(nullptr);
     entorno_.DestruirVentana();
     try {
-        Nucleo()->Terminate();
+        nucleo_->Terminate();
     } catch (...) {
         // Nobody is left to be told.
     }
     eventos_.Olvidar();
     notificaciones_.Olvidar();
+    nucleo_.reset(); // it may still speak to the container
+    if (aceleradores_)
+        DestroyAcceleratorTable(aceleradores_);
 }
 
 HRESULT ObjetoControl::QueryInterface(REFIID iid, void** salida) {
@@ -122,7 +118,7 @@ HRESULT ObjetoControl::DarNucleo(HMODULE modulo, ControlUsuario** nucleo) {
         return E_ACCESSDENIED;
     return Guardar([&] {
         Preparar();
-        *nucleo = Nucleo();
+        *nucleo = nucleo_.get();
         return S_OK;
     });
 }

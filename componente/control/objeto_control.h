@@ -19,51 +19,40 @@
 #include <olectl.h>
 #include <oleidl.h>
 
+#include <memory>
 #include <optional>
 #include <string>
 
 namespace pincela::componente {
 
-/// An event goes out with references to the caller's variables. A boolean has another width out
-/// there, so it travels through a copy that is brought back.
-template <class T>
-void SacarArgumento(T& valor, VARIANTARG& v, VARIANT_BOOL& copia) {
-    VariantInit(&v);
-    V_VT(&v) = static_cast<VARTYPE>(TipoDe<T>().vt | VT_BYREF);
-    if constexpr (std::is_same_v<T, bool>) {
-        copia = HaciaBool(valor);
-        V_BYREF(&v) = &copia;
-    } else {
-        V_BYREF(&v) = &valor;
-    }
-}
-template <class T>
-void TraerArgumento(T& valor, VARIANT_BOOL copia) {
-    if constexpr (std::is_same_v<T, bool>)
-        valor = copia != VARIANT_FALSE;
-}
+class ObjetoControl;
 
-class ObjetoControl : public IOleObject,
-                      public IOleControl,
-                      public IOleInPlaceObject,
-                      public IOleInPlaceActiveObject,
-                      public IViewObject2,
-                      public IPersistStreamInit,
-                      public IPersistStorage,
-                      public IPersistPropertyBag,
-                      public IProvideClassInfo2,
-                      public IConnectionPointContainer,
-                      public ISpecifyPropertyPages,
-                      public ISupportErrorInfo,
-                      public ICategorizeProperties,
-                      public IPerPropertyBrowsing,
-                      public IQuickActivate,
-                      public IDataObject,
-                      public IControlInterno,
-                      public windows::SitioControl {
+/// Makes the core of a class of control and connects its events to `objeto`.
+using HacedorDeNucleo = std::unique_ptr<ControlUsuario> (*)(ObjetoControl& objeto,
+                                                            windows::EntornoWindows& entorno);
+
+class ObjetoControl final : public IOleObject,
+                            public IOleControl,
+                            public IOleInPlaceObject,
+                            public IOleInPlaceActiveObject,
+                            public IViewObject2,
+                            public IPersistStreamInit,
+                            public IPersistStorage,
+                            public IPersistPropertyBag,
+                            public IProvideClassInfo2,
+                            public IConnectionPointContainer,
+                            public ISpecifyPropertyPages,
+                            public ISupportErrorInfo,
+                            public ICategorizeProperties,
+                            public IPerPropertyBrowsing,
+                            public IQuickActivate,
+                            public IDataObject,
+                            public IControlInterno,
+                            public windows::SitioControl {
   public:
     ObjetoControl(const ObjetoControl&) = delete;
     ObjetoControl& operator=(const ObjetoControl&) = delete;
+    ObjetoControl(const ClasePublicada& clase, HacedorDeNucleo hacer);
     virtual ~ObjetoControl();
 
     IUnknown* Identidad() { return static_cast<IOleObject*>(this); }
@@ -192,34 +181,8 @@ class ObjetoControl : public IOleObject,
     // IControlInterno
     HRESULT STDMETHODCALLTYPE DarNucleo(HMODULE modulo, ControlUsuario** nucleo) override;
 
-  protected:
-    explicit ObjetoControl(const ClasePublicada& clase);
-
-    /// The core, made by the class that derives from this one; null while it is being destroyed.
-    virtual ControlUsuario* Nucleo() = 0;
-    /// Called at the end of the constructor and at the start of the destructor of that class.
-    void Nacer();
-    void Morir();
-
     /// Raises an event at every sink. `argumentos` come backwards, as the interface wants them.
     void RaiseEvent(DISPID evento, VARIANTARG* argumentos, unsigned cuantos);
-
-    /// What the core raises through `evento` goes out as number `numero`.
-    template <class... A>
-    void Conectar(Evento<A...>& evento, DISPID numero) {
-        evento.Conectar([this, numero](A&... argumentos) {
-            constexpr std::size_t cuantos = sizeof...(A);
-            VARIANTARG v[cuantos + 1]; // never of length 0
-            [[maybe_unused]] VARIANT_BOOL copias[cuantos + 1];
-            [[maybe_unused]] std::size_t lugar = cuantos; // they go backwards
-            ((--lugar, SacarArgumento(argumentos, v[lugar], copias[lugar])), ...);
-            RaiseEvent(numero, v, cuantos);
-            lugar = cuantos;
-            ((--lugar, TraerArgumento(argumentos, copias[lugar])), ...);
-        });
-    }
-
-    windows::EntornoWindows entorno_;
 
   private:
     // windows::SitioControl: what the environment asks
@@ -247,7 +210,7 @@ class ObjetoControl : public IOleObject,
     template <class F>
     void NucleoSeguro(F&& f) noexcept {
         try {
-            f(*Nucleo());
+            f(*nucleo_);
         } catch (const ErrorEjecucion& error) {
             ErrorEnNotificacion(error);
         } catch (...) {
@@ -300,6 +263,8 @@ class ObjetoControl : public IOleObject,
     CuentaReferencias cuenta_;
     const ClasePublicada& clase_;
     InterfazDual interfaz_{};
+    windows::EntornoWindows entorno_;
+    std::unique_ptr<ControlUsuario> nucleo_;
     Vida vida_ = Vida::SinIniciar;
     bool sucio_ = false;
     bool cerrando_ = false;

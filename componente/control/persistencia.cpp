@@ -61,7 +61,7 @@ void ObjetoControl::Preparar() {
 void ObjetoControl::Iniciar() {
     vida_ = Vida::Cargando;
     try {
-        Nucleo()->InitProperties();
+        nucleo_->InitProperties();
     } catch (...) {
         vida_ = Vida::SinIniciar;
         throw;
@@ -80,13 +80,13 @@ void ObjetoControl::Restaurar(BolsaPropiedades& bolsa) {
     const Vida antes = vida_;
     // What the control holds now, to be put back when the new values turn out to be unusable.
     BolsaMemoria respaldo;
-    Nucleo()->WriteProperties(respaldo);
+    nucleo_->WriteProperties(respaldo);
     const Imagen icono = entorno_.superficie().MouseIcon();
     vida_ = Vida::Cargando;
     try {
-        Nucleo()->ReadProperties(bolsa);
+        nucleo_->ReadProperties(bolsa);
     } catch (...) {
-        Nucleo()->ReadProperties(respaldo);
+        nucleo_->ReadProperties(respaldo);
         entorno_.superficie().PonMouseIcon(icono);
         vida_ = antes;
         throw;
@@ -125,7 +125,7 @@ void ObjetoControl::CargarBytes(IStream& flujo) {
 void ObjetoControl::GuardarBytes(IStream& flujo) {
     Preparar();
     BolsaMemoria bolsa;
-    Nucleo()->WriteProperties(bolsa);
+    nucleo_->WriteProperties(bolsa);
     const Bytes bytes = EscribirGuardado({extension_.cx, extension_.cy, bolsa.Guardar()});
     ULONG escritos = 0;
     Exigir(flujo.Write(bytes.data(), static_cast<ULONG>(bytes.size()), &escritos));
@@ -227,7 +227,7 @@ HRESULT ObjetoControl::Save(IPropertyBag* bolsa, BOOL limpiar, BOOL) {
     return Guardar([&] {
         Preparar();
         BolsaCom propia(bolsa, nullptr);
-        Nucleo()->WriteProperties(propia);
+        nucleo_->WriteProperties(propia);
         if (limpiar)
             sucio_ = false;
         return S_OK;

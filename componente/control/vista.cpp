@@ -15,7 +15,7 @@ HRESULT ObjetoControl::Draw(DWORD aspecto, LONG, void*, DVTARGETDEVICE*, HDC, HD
         Preparar();
         const RECT lugar{limites->left, limites->top, limites->right, limites->bottom};
         std::int32_t anchoElipse = 0, altoElipse = 0;
-        Nucleo()->Forma(anchoElipse, altoElipse);
+        nucleo_->Forma(anchoElipse, altoElipse);
         entorno_.Dibujar(dibujo, lugar, {anchoElipse, altoElipse});
         return S_OK;
     });

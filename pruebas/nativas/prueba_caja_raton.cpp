@@ -221,3 +221,23 @@ TEST_CASE("the access key gives the focus to the field of an enabled control") {
     p->c->AccessKeyPress(u'n');
     CHECK_FALSE(p->campo().EsActivo());
 }
+
+TEST_CASE("a form that goes to design mode takes the mouse's colours away and tells nobody") {
+    auto p = Bicolor();
+    p->Entrar();
+    p->Tomar();
+    p->c->UserModeChanged();
+    CHECK_FALSE(EnVerde(*p));
+    CHECK_FALSE(p->sondeo().Tic());
+    CHECK(p->Tomar({"evento"}) == Lineas{});
+    p->Entrar();
+    CHECK(EnVerde(*p));
+}
+
+TEST_CASE("a field that keeps the focus keeps its colours when the form goes to design mode") {
+    auto p = Bicolor();
+    p->campo().SetFocus();
+    p->Entrar();
+    p->c->UserModeChanged();
+    CHECK(EnVerde(*p));
+}
