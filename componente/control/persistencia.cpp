@@ -86,7 +86,7 @@ void ObjetoControl::Restaurar(BolsaPropiedades& bolsa) {
     try {
         Nucleo()->ReadProperties(bolsa);
     } catch (...) {
-        Nucleo()->ReadProperties(respaldo);
+        NucleoSeguro([&](ControlUsuario& nucleo) { nucleo.ReadProperties(respaldo); });
         entorno_.superficie().PonMouseIcon(icono);
         vida_ = antes;
         throw;
