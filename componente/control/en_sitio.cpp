@@ -29,7 +29,17 @@ HRESULT ObjetoControl::Activar(bool conFoco, HWND padre, const RECT* lugar) {
         if (!activoEnSitio_) // closed from inside one of those calls
             return E_UNEXPECTED;
         PonPppDe(ventanaPadre);
-        if (!entorno_.CrearVentana(ventanaPadre, posicion)) {
+        HWND ventana = nullptr;
+        try {
+            ventana = entorno_.CrearVentana(ventanaPadre, posicion);
+        } catch (...) {
+            saliendo_ = true;
+            entorno_.DestruirVentana();
+            saliendo_ = false;
+            OlvidarSitioEnSitio();
+            throw;
+        }
+        if (!ventana) {
             OlvidarSitioEnSitio();
             return E_FAIL;
         }

@@ -145,16 +145,21 @@ void ObjetoControl::AccesibleCambiado() {
     const HWND ventana = entorno_.Ventana();
     if (vida_ != Vida::Viva || cerrando_ || !ventana)
         return;
-    const Accesible ahora = nucleo_->Describir();
-    if (ahora.papel == Accesible::Papel::Ninguno)
-        return;
-    const Accesible antes = std::exchange(descrito_, ahora);
-    if (ahora.nombre != antes.nombre)
-        NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, ventana, OBJID_CLIENT, CHILDID_SELF);
-    if (EstadoAccesible(ahora, conFoco_) != estadoDescrito_) {
-        estadoDescrito_ = EstadoAccesible(ahora, conFoco_);
-        NotifyWinEvent(EVENT_OBJECT_STATECHANGE, ventana, OBJID_CLIENT, CHILDID_SELF);
-    }
+    // Whoever listens is told when it can be told; nothing else depends on it.
+    NucleoSeguro([&](ControlUsuario& nucleo) {
+        Accesible ahora = nucleo.Describir();
+        if (ahora.papel == Accesible::Papel::Ninguno)
+            return;
+        const long estado = EstadoAccesible(ahora, conFoco_);
+        const bool otroNombre = ahora.nombre != descrito_.nombre;
+        descrito_ = std::move(ahora);
+        if (otroNombre)
+            NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, ventana, OBJID_CLIENT, CHILDID_SELF);
+        if (estado != estadoDescrito_) {
+            estadoDescrito_ = estado;
+            NotifyWinEvent(EVENT_OBJECT_STATECHANGE, ventana, OBJID_CLIENT, CHILDID_SELF);
+        }
+    });
 }
 
 } // namespace pincela::componente

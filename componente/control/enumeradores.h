@@ -33,6 +33,17 @@ inline bool CopiarElemento(const OLEVERB& de, OLEVERB* a) {
     a->lpszVerbName = DuplicarTexto(de.lpszVerbName);
     return a->lpszVerbName != nullptr;
 }
+/// Takes back what was copied.
+inline void DevolverElemento(const CONNECTDATA& e) {
+    e.pUnk->Release();
+}
+inline void DevolverElemento(IConnectionPoint* e) {
+    e->Release();
+}
+inline void DevolverElemento(const FORMATETC&) {}
+inline void DevolverElemento(const OLEVERB& e) {
+    CoTaskMemFree(e.lpszVerbName);
+}
 inline void Retener(const CONNECTDATA& e) {
     e.pUnk->AddRef();
 }
@@ -77,8 +88,14 @@ class Enumerador final : public Interfaz {
             return E_POINTER;
         ULONG n = 0;
         while (n < cuantos && lugar_ < lista_.size()) {
-            if (!CopiarElemento(lista_[lugar_], salida + n))
-                break;
+            if (!CopiarElemento(lista_[lugar_], salida + n)) {
+                lugar_ -= n;
+                while (n > 0)
+                    DevolverElemento(salida[--n]);
+                if (dados)
+                    *dados = 0;
+                return E_OUTOFMEMORY;
+            }
             ++lugar_;
             ++n;
         }

@@ -75,7 +75,10 @@ Bytes GuardarMetafichero(IPicture& imagen, HMETAFILE metafichero) {
 
 /// What an icon is drawn from; the bitmaps are copies and belong to us.
 struct PartesDeIcono : ICONINFO {
-    explicit PartesDeIcono(HICON icono) : ICONINFO{} { GetIconInfo(icono, this); }
+    explicit PartesDeIcono(HICON icono) : ICONINFO{} {
+        if (!GetIconInfo(icono, this))
+            throw FalloCom{E_OUTOFMEMORY};
+    }
     PartesDeIcono(const PartesDeIcono&) = delete;
     PartesDeIcono& operator=(const PartesDeIcono&) = delete;
     ~PartesDeIcono() {

@@ -193,6 +193,9 @@ HRESULT ObjetoControl::GetExtent(DWORD aspecto, SIZEL* tamanio) {
 }
 
 HRESULT ObjetoControl::Advise(IAdviseSink* sumidero, DWORD* galleta) {
+    if (!galleta)
+        return E_POINTER;
+    *galleta = 0;
     if (!avisosOle_) {
         const HRESULT estado = CreateOleAdviseHolder(avisosOle_.Recibir());
         if (FAILED(estado))

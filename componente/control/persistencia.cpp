@@ -86,7 +86,7 @@ void ObjetoControl::Restaurar(BolsaPropiedades& bolsa) {
     try {
         nucleo_->ReadProperties(bolsa);
     } catch (...) {
-        nucleo_->ReadProperties(respaldo);
+        NucleoSeguro([&](ControlUsuario& nucleo) { nucleo.ReadProperties(respaldo); });
         entorno_.superficie().PonMouseIcon(icono);
         vida_ = antes;
         throw;

@@ -81,9 +81,10 @@ HRESULT PuntoDeConexion::EnumConnections(IEnumConnections** lista) {
     }
 }
 
-bool PuntoDeConexion::Esta(DWORD galleta) const {
-    return std::any_of(conexiones_.begin(), conexiones_.end(),
-                       [&](const Conexion& uno) { return uno.galleta == galleta; });
+const PuntoDeConexion::Conexion* PuntoDeConexion::Tras(DWORD dicha, DWORD ultima) const {
+    const auto una = std::find_if(conexiones_.begin(), conexiones_.end(),
+                                  [&](const Conexion& c) { return c.galleta > dicha; });
+    return una == conexiones_.end() || una->galleta > ultima ? nullptr : &*una;
 }
 
 void PuntoDeConexion::Olvidar() {

@@ -34,22 +34,25 @@ class PuntoDeConexion final : public IConnectionPoint {
     /// Calls `f` for each sink connected at this moment; one that leaves meanwhile is skipped.
     template <class F>
     void ParaCadaUno(F&& f) {
-        const std::vector<Conexion> copia = conexiones_;
-        for (const Conexion& conexion : copia)
-            if (Esta(conexion.galleta))
-                f(conexion.sumidero.get());
+        const DWORD ultima = ultimaGalleta_;
+        for (DWORD dicha = 0; const Conexion* una = Tras(dicha, ultima);) {
+            dicha = una->galleta;
+            const Ptr<IUnknown> sumidero = una->sumidero; // held: it may disconnect itself
+            f(sumidero.get());
+        }
     }
 
     bool Vacio() const { return conexiones_.empty(); }
     void Olvidar();
 
   private:
-    bool Esta(DWORD galleta) const;
+    /// The first connection after one cookie and up to another; null for none.
+    const Conexion* Tras(DWORD dicha, DWORD ultima) const;
 
     IUnknown* objeto_;
     IConnectionPointContainer* contenedor_;
     IID interfaz_;
-    std::vector<Conexion> conexiones_;
+    std::vector<Conexion> conexiones_; // cookies grow
     DWORD ultimaGalleta_ = 0;
 };
 

@@ -15,6 +15,10 @@ inline bool LeerTardio(Ptr<IDispatch> objeto, DISPID dispid, VARTYPE tipo, VARIA
                        leido.Recibir(), nullptr, nullptr);
     if (FAILED(estado) || V_VT(&leido) == VT_EMPTY)
         return false;
+    if (V_VT(&leido) == tipo) {
+        std::swap(*valor, static_cast<VARIANT&>(leido));
+        return true;
+    }
     return SUCCEEDED(VariantChangeType(valor, &leido, 0, tipo));
 }
 

@@ -156,6 +156,9 @@ HRESULT ObjetoControl::EnumFormatEtc(DWORD direccion, IEnumFORMATETC** lista) {
 
 HRESULT ObjetoControl::DAdvise(FORMATETC* formato, DWORD banderas, IAdviseSink* sumidero,
                                DWORD* galleta) {
+    if (!galleta)
+        return E_POINTER;
+    *galleta = 0;
     if (!avisosDeDatos_) {
         const HRESULT estado = CreateDataAdviseHolder(avisosDeDatos_.Recibir());
         if (FAILED(estado))

@@ -37,6 +37,7 @@ DWORD CajaTextoWindows::Estilo() const {
 void CajaTextoWindows::CrearVentana() {
     if (ventana_ || !nucleo_.ventana)
         return;
+    RefFuenteGdi fuente = FuenteDeVentana(); // what takes memory comes before the window
     const RECT r = Rectangulo();
     ventana_ = ::CreateWindowExW(apariencia_ == 1 ? WS_EX_CLIENTEDGE : 0, L"EDIT", nullptr,
                                  Estilo(), r.left, r.top, r.right - r.left, r.bottom - r.top,
@@ -44,7 +45,7 @@ void CajaTextoWindows::CrearVentana() {
     if (!ventana_)
         return;
     ::SendMessageW(ventana_, EM_SETLIMITTEXT, static_cast<WPARAM>(maximo_), 0);
-    PonFuenteEnVentana();
+    PonFuenteEnVentana(std::move(fuente));
     callada_ = true;
     ::SetWindowTextW(ventana_, reinterpret_cast<const wchar_t*>(texto_.c_str()));
     callada_ = false;
@@ -58,11 +59,15 @@ void CajaTextoWindows::CrearVentana() {
 void CajaTextoWindows::SoltarVentana() {
     if (!ventana_)
         return;
-    const Texto texto = Text();
-    const std::int32_t inicio = SelStart(), largo = SelLength();
-    texto_ = texto;
-    inicio_ = inicio;
-    largo_ = largo;
+    try {
+        Texto texto = Text();
+        const std::int32_t inicio = SelStart(), largo = SelLength();
+        texto_ = std::move(texto);
+        inicio_ = inicio;
+        largo_ = largo;
+    } catch (const std::bad_alloc&) {
+        // The window goes all the same; what was typed in it can't be kept.
+    }
     ::RemoveWindowSubclass(ventana_, &CajaTextoWindows::Procedimiento, Subclase);
     ventana_ = nullptr;
     manija_.reset();
@@ -78,13 +83,13 @@ void CajaTextoWindows::Rehacer() {
     const bool conFoco = EsActivo();
     const LRESULT primera = ::SendMessageW(vieja, EM_GETFIRSTVISIBLELINE, 0, 0);
     SoltarVentana();
+    const Dueno<HWND, CierreVentana> alFinal(vieja); // even if there is no memory for the new one
     CrearVentana();
     DesplazarHasta(primera);
     callada_ = true;
     if (conFoco && ventana_)
         ::SetFocus(ventana_);
     callada_ = false;
-    ::DestroyWindow(vieja);
 }
 
 /// Shows from this line on or, in a field of one line, from this character.

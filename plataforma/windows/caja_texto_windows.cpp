@@ -22,9 +22,9 @@ const wchar_t* Letras(const Texto& texto) {
 
 CajaTextoWindows::CajaTextoWindows(Nucleo& nucleo, bool multilinea)
     : nucleo_(nucleo), multilinea_(multilinea), fuente_(*this) {
+    nucleo_.campos.reserve(nucleo_.campos.size() + 1); // nothing fails halfway through the two
     nucleo_.escena.Agregar(*this);
     nucleo_.campos.push_back(this);
-    CrearVentana();
 }
 
 CajaTextoWindows::~CajaTextoWindows() {
@@ -164,19 +164,22 @@ void CajaTextoWindows::PonFont(const Fuente& fuente) {
 }
 
 void CajaTextoWindows::FuenteCambiada() {
-    PonFuenteEnVentana();
+    PonFuenteEnVentana(FuenteDeVentana());
     nucleo_.VistaCambiada();
 }
 
 void CajaTextoWindows::PppCambiado() {
-    PonFuenteEnVentana();
+    PonFuenteEnVentana(FuenteDeVentana());
 }
 
-void CajaTextoWindows::PonFuenteEnVentana() {
+RefFuenteGdi CajaTextoWindows::FuenteDeVentana() const {
+    const AtributosFuente atributos = fuente_.Atributos();
+    return FuenteDeDispositivo(atributos, AltoDeFuente(atributos.Size, nucleo_.ppp));
+}
+
+void CajaTextoWindows::PonFuenteEnVentana(RefFuenteGdi nueva) {
     if (!ventana_)
         return;
-    const AtributosFuente atributos = fuente_.Atributos();
-    RefFuenteGdi nueva = FuenteDeDispositivo(atributos, AltoDeFuente(atributos.Size, nucleo_.ppp));
     ::SendMessageW(ventana_, WM_SETFONT, reinterpret_cast<WPARAM>(nueva->manija.get()), TRUE);
     manija_ = std::move(nueva); // the old one only after the window let it go
 }

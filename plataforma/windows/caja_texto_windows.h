@@ -82,7 +82,8 @@ class CajaTextoWindows final : public CajaTexto,
     bool Decir(Accion&& accion);
 
     void FuenteCambiada() override;
-    void PonFuenteEnVentana();
+    RefFuenteGdi FuenteDeVentana() const;
+    void PonFuenteEnVentana(RefFuenteGdi nueva);
     void Repintar();
     void Rehacer();
     void Nombrar();

@@ -7,19 +7,12 @@
 
 namespace pincela::windows {
 
-/// Registered as long as it lives; one made by the first window goes when the module is unloaded.
+/// Registered from the first window on, as long as this lives; a static one goes when the module is
+/// unloaded.
 class ClaseDeVentana {
   public:
-    ClaseDeVentana(const wchar_t* nombre, UINT estilo, WNDPROC procedimiento) : nombre_(nombre) {
-        WNDCLASSEXW clase{};
-        clase.cbSize = sizeof clase;
-        clase.style = estilo;
-        clase.lpfnWndProc = procedimiento;
-        clase.hInstance = ModuloPropio();
-        clase.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-        clase.lpszClassName = nombre;
-        registrada_ = ::RegisterClassExW(&clase) != 0;
-    }
+    ClaseDeVentana(const wchar_t* nombre, UINT estilo, WNDPROC procedimiento)
+        : nombre_(nombre), estilo_(estilo), procedimiento_(procedimiento) {}
     ClaseDeVentana(const ClaseDeVentana&) = delete;
     ClaseDeVentana& operator=(const ClaseDeVentana&) = delete;
     ~ClaseDeVentana() {
@@ -27,9 +20,25 @@ class ClaseDeVentana {
             ::UnregisterClassW(nombre_, ModuloPropio());
     }
 
+    /// Before each window; what the platform refused once is asked for again.
+    void Asegurar() {
+        if (registrada_)
+            return;
+        WNDCLASSEXW clase{};
+        clase.cbSize = sizeof clase;
+        clase.style = estilo_;
+        clase.lpfnWndProc = procedimiento_;
+        clase.hInstance = ModuloPropio();
+        clase.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+        clase.lpszClassName = nombre_;
+        registrada_ = ::RegisterClassExW(&clase) != 0;
+    }
+
   private:
     const wchar_t* nombre_;
-    bool registrada_;
+    UINT estilo_;
+    WNDPROC procedimiento_;
+    bool registrada_ = false;
 };
 
 } // namespace pincela::windows

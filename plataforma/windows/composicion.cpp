@@ -51,6 +51,26 @@ void ComponerFondo(SuperficieWindows& superficie, const Destino& destino) {
         CopiarImagen(imagen, tamano, destino);
 }
 
+/// The painting of a window, ended whatever happens meanwhile: a window that is not told so stays
+/// dirty and keeps its context.
+class Pintura {
+  public:
+    explicit Pintura(HWND ventana) : ventana_(ventana), dc_(::BeginPaint(ventana, &datos_)) {}
+    Pintura(const Pintura&) = delete;
+    Pintura& operator=(const Pintura&) = delete;
+    ~Pintura() {
+        if (dc_)
+            ::EndPaint(ventana_, &datos_);
+    }
+    HDC dc() const { return dc_; }
+    const RECT& Sucio() const { return datos_.rcPaint; }
+
+  private:
+    HWND ventana_;
+    PAINTSTRUCT datos_{};
+    HDC dc_;
+};
+
 void CopiarEntera(HDC destino, HDC origen, const RECT& r) {
     ::BitBlt(destino, r.left, r.top, r.right - r.left, r.bottom - r.top, origen, r.left, r.top,
              SRCCOPY);
@@ -81,13 +101,12 @@ void DibujarPadre(Nucleo& nucleo, HDC dc) {
 }
 
 void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie) {
-    PAINTSTRUCT pintura;
-    const HWND ventana = nucleo.ventana;
-    const HDC dc = ::BeginPaint(ventana, &pintura);
+    const Pintura pintura(nucleo.ventana);
+    const HDC dc = pintura.dc();
     if (!dc)
         return;
     nucleo.VistaDibujada();
-    const RECT& sucio = pintura.rcPaint;
+    const RECT& sucio = pintura.Sucio();
     const auto testigo = nucleo.Testigo();
     if (sucio.right > sucio.left && sucio.bottom > sucio.top) {
         const PrestamoDeFondo fondo(dc, {sucio.right, sucio.bottom});
@@ -103,7 +122,6 @@ void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie) {
         if (fondo.dc())
             CopiarEntera(dc, fondo.dc(), sucio);
     }
-    ::EndPaint(ventana, &pintura);
 }
 
 void ImprimirVentana(Nucleo& nucleo, SuperficieWindows& superficie, HDC dc, LPARAM banderas,

@@ -207,7 +207,9 @@ std::unique_ptr<Linea> EntornoWindows::CrearLinea() {
     return std::make_unique<LineaWindows>(partes_->nucleo);
 }
 std::unique_ptr<CajaTexto> EntornoWindows::CrearCajaTexto(bool multilinea) {
-    return std::make_unique<CajaTextoWindows>(partes_->nucleo, multilinea);
+    auto caja = std::make_unique<CajaTextoWindows>(partes_->nucleo, multilinea);
+    caja->CrearVentana(); // where the control has its own already
+    return caja;
 }
 
 void EntornoWindows::PropertyChanged(VistaTexto clave) {

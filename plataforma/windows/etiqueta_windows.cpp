@@ -90,7 +90,7 @@ void EtiquetaWindows::Medir() const {
     atributos_ = fuente_.Atributos();
     manija_ = FuenteDeDispositivo(atributos_, AltoDeFuente(atributos_.Size, nucleo_.ppp));
     tamano_ = MedirTexto(DcDeMedida(), manija_->manija.get(), texto_);
-    medida_ = true;
+    medida_ = manija_->manija && DcDeMedida(); // else next time, when there may be more to be had
 }
 
 float EtiquetaWindows::Width() const {

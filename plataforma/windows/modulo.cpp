@@ -126,7 +126,8 @@ RefFuenteGdi FuenteDeDispositivo(const AtributosFuente& atributos, int alto, int
             return uso.fuente.lock();
     auto fuente = std::make_shared<FuenteGdi>();
     fuente->manija.Poner(::CreateFontIndirectW(&descripcion));
-    fuentes.push_back({descripcion, fuente});
+    if (fuente->manija) // one that could not be made is asked for again
+        fuentes.push_back({descripcion, fuente});
     return fuente;
 }
 

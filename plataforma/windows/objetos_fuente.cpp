@@ -5,6 +5,7 @@
 #include <olectl.h>
 
 #include <algorithm>
+#include <new>
 
 namespace pincela::windows {
 
@@ -150,7 +151,7 @@ Fuente CrearFuente(const AtributosFuente& atributos) {
     descripcion.fStrikethrough = atributos.Strikethrough;
     PunteroCom<IFont> fuente;
     if (FAILED(::OleCreateFontIndirect(&descripcion, IID_IFont, fuente.RecibirVacio())))
-        Lanzar(NumeroError::SinMemoria);
+        throw std::bad_alloc();
     return std::make_shared<FuenteOle>(std::move(fuente));
 }
 

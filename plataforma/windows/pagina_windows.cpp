@@ -160,7 +160,8 @@ void PaginaWindows::PonChanged(bool valor) {
 }
 
 HWND PaginaWindows::CrearVentana(HWND padre) {
-    static const ClaseDeVentana cuadros(ClaseDeCuadro, 0, &ProcesarCuadro);
+    static ClaseDeVentana cuadros(ClaseDeCuadro, 0, &ProcesarCuadro);
+    cuadros.Asegurar();
     const std::vector<WORD> plantilla = PlantillaDe(diseno_);
     ventana_ = ::CreateDialogIndirectParamW(ModuloPropio(),
                                             reinterpret_cast<const DLGTEMPLATE*>(plantilla.data()),

@@ -37,7 +37,8 @@ void TemporizadorWindows::PonInterval(std::int32_t milisegundos) {
 }
 
 void TemporizadorWindows::PonEnabled(bool valor) {
-    if (valor == habilitado_)
+    const bool marcha = numero_ != 0 || intervalo_ <= 0;
+    if (valor == habilitado_ && (marcha || !valor)) // the platform may have refused it before
         return;
     habilitado_ = valor;
     tics_ = 0;

@@ -32,7 +32,8 @@ LRESULT CodigoDeDialogo(LPARAM l) {
 } // namespace
 
 HWND VentanaSuperficie::Crear(HWND padre, const RECT& lugar) {
-    static const ClaseDeVentana clase(NombreDeClase, CS_DBLCLKS, &VentanaSuperficie::Procedimiento);
+    static ClaseDeVentana clase(NombreDeClase, CS_DBLCLKS, &VentanaSuperficie::Procedimiento);
+    clase.Asegurar();
     if (nucleo_.ventana)
         Destruir();
     superficie_.PonTamano({lugar.right - lugar.left, lugar.bottom - lugar.top});

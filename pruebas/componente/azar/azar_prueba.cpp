@@ -1,13 +1,15 @@
-// 20,000 random sequences of what containers, users and files do to a control: whatever comes, the
-// answer is a status, and nothing is left behind.
+// Random sequences of what containers, users and files do to a control: whatever comes, the answer is
+// a status, and nothing is left behind.
 #include "anfitrion/bolsa_memoria.h"
 #include "anfitrion/imagenes.h"
 #include "anfitrion/tardio.h"
 #include "pruebas/cada.h"
+#include "pruebas/componente/memoria/fallos.h"
 #include "pruebas/componente/persistencia/flujos.h"
 #include "pruebas/componente/vivo/banco.h"
 #include "pruebas/componente/vivo/recuento.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <limits>
 #include <random>
@@ -16,7 +18,7 @@ using namespace vivo;
 
 namespace {
 
-constexpr int Sucesiones = 20000;
+constexpr int Sucesiones = SUCESIONES; ///< over all six controls
 constexpr int PorControl = 50; ///< sequences before it is replaced by a new one
 
 class Azar {
@@ -88,6 +90,31 @@ class Azar {
     std::mt19937 motor_;
 };
 
+/// A bag that fails in every way that there is, for some keys, and gives and takes the others.
+class BolsaAdversa : public ObjetoCom<IPropertyBag> {
+  public:
+    BolsaAdversa(Azar& azar, Puntero<BolsaMemoria> buena) : azar_(azar), buena_(std::move(buena)) {}
+
+    HRESULT STDMETHODCALLTYPE Read(LPCOLESTR clave, VARIANT* valor, IErrorLog* errores) override {
+        const HRESULT estado = Suerte();
+        return estado == S_OK ? buena_->Read(clave, valor, errores) : estado;
+    }
+    HRESULT STDMETHODCALLTYPE Write(LPCOLESTR clave, VARIANT* valor) override {
+        const HRESULT estado = Suerte();
+        return estado == S_OK ? buena_->Write(clave, valor) : estado;
+    }
+
+  private:
+    HRESULT Suerte() {
+        static constexpr HRESULT errores[] = {E_FAIL,        E_INVALIDARG, E_OUTOFMEMORY, E_ACCESSDENIED,
+                                              STG_E_MEDIUMFULL, S_FALSE,   DISP_E_TYPEMISMATCH};
+        return azar_.Una(15) ? errores[azar_.Menor(std::size(errores))] : S_OK;
+    }
+
+    Azar& azar_;
+    Puntero<BolsaMemoria> buena_;
+};
+
 /// Numbers of everything that can be called on the class.
 std::vector<DISPID> Miembros(IDispatch* objeto) {
     std::vector<DISPID> numeros;
@@ -109,7 +136,10 @@ std::vector<DISPID> Miembros(IDispatch* objeto) {
 /// One control in the hands of chance.
 class Victima {
   public:
-    Victima(Azar& azar, const wchar_t* clase) : azar_(azar), b_({}, clase), numeros_(Miembros(b_.boton->Despacho())) {}
+    Victima(Azar& azar, const wchar_t* clase)
+        : azar_(azar), b_({}, clase), numeros_(Miembros(b_.boton->Despacho())) {
+        b_.alOcurrir = [this](Evento&) { AlOcurrir(); };
+    }
 
     void Sucesion() {
         for (int paso = 1 + azar_.Menor(5); paso > 0 && b_.boton->Abierto(); --paso) {
@@ -123,8 +153,19 @@ class Victima {
     }
 
   private:
+    /// Handlers of events use the control that raised them, and lie about how it went.
+    void AlOcurrir() {
+        if (dentro_ || !azar_.Una(20) || !b_.boton || !b_.boton->Abierto())
+            return;
+        dentro_ = true;
+        try {
+            Asignar();
+        } catch (const FalloCom&) {
+        }
+        dentro_ = false;
+    }
     void Paso() {
-        switch (azar_.Menor(12)) {
+        switch (azar_.Menor(13)) {
         case 0:
         case 1:
         case 2:
@@ -144,6 +185,8 @@ class Victima {
             return Dibujar();
         case 10:
             return Activar();
+        case 11:
+            return Adversa();
         default:
             b_.forma->PonerModoUsuario(azar_.Una(2));
         }
@@ -205,6 +248,13 @@ class Victima {
         otra->hostilidad = static_cast<Hostilidad>(azar_.Menor(5));
         guardable->Load(otra.get(), nullptr);
     }
+    void Adversa() {
+        const auto guardable = b_.boton->Como<IPersistPropertyBag>();
+        const auto buena = Hacer<BolsaMemoria>();
+        const auto mala = Hacer<BolsaAdversa>(azar_, buena);
+        guardable->Save(mala.get(), azar_.Una(2), TRUE);
+        guardable->Load(mala.get(), nullptr);
+    }
     void Dibujar() {
         const HDC hdc = CreateCompatibleDC(nullptr);
         const HBITMAP mapa = CreateBitmap(60, 40, 1, 32, nullptr);
@@ -225,6 +275,7 @@ class Victima {
     Azar& azar_;
     Banco b_;
     std::vector<DISPID> numeros_;
+    bool dentro_ = false;
 };
 
 void Maltratar(Azar& azar, int sucesiones, const wchar_t* clase) {
@@ -237,23 +288,28 @@ void Maltratar(Azar& azar, int sucesiones, const wchar_t* clase) {
 
 } // namespace
 
-TEST_CASE("20,000 random sequences end in statuses and leave nothing behind") {
+TEST_CASE("Random sequences end in statuses and leave nothing behind") {
     const wchar_t* clase = pincela::pruebas::Cada({L"Pincela.Botonazo", L"Pincela.Area", L"Pincela.Tbox", L"Pincela.TBoxML",
                                  L"Pincela.TboxSS", L"Pincela.TboxSSML"});
     // The file stays loaded, as it does in a program.
     AbrirOle();
     const Componente componente = Componente::DeFichero(RutaComponente());
+    static const memoria::Fallos cuenta(GetModuleHandleW(L"Pincela.ocx"));
     Azar azar(20261121);
-    Maltratar(azar, 10 * PorControl, clase);
+    Maltratar(azar, std::min(10 * PorControl, Sucesiones / 6), clase);
     const int gdi = ObjetosGdi(), ventanas = Ventanas();
-    const Monton memoria = Memoria();
+    const long propios = memoria::Fallos::BloquesVivos();
+    const Monton monton = Memoria();
     Maltratar(azar, Sucesiones / 6, clase);
     const Monton despues = Memoria();
-    std::printf("%s: GDI %d -> %d, windows %d -> %d, heap %ld -> %ld blocks\n",
-                Estrechar(clase).c_str(), gdi, ObjetosGdi(), ventanas, Ventanas(), memoria.bloques,
-                despues.bloques);
+    std::printf("%s: GDI %d -> %d, windows %d -> %d, blocks of the component %ld -> %ld, of all %ld -> %ld\n",
+                Estrechar(clase).c_str(), gdi, ObjetosGdi(), ventanas, Ventanas(), propios,
+                memoria::Fallos::BloquesVivos(), monton.bloques, despues.bloques);
     CHECK(ObjetosGdi() == gdi);
     CHECK(Ventanas() == ventanas);
-    // A leak for each control would be dozens of blocks; caches of fonts and classes are fewer.
-    CHECK(despues.bloques - memoria.bloques < Sucesiones / 6 / PorControl);
+    CHECK(memoria::Fallos::BloquesVivos() == propios);
+    // What goes to others is theirs to free. The platform's own caches of fonts and classes breathe, and
+    // its edit field of many lines loses some blocks whenever it goes.
+    if (!std::wstring_view(clase).ends_with(L"ML"))
+        CHECK(despues.bloques - monton.bloques < std::max(50, Sucesiones / 6 / PorControl));
 }
