@@ -167,8 +167,13 @@ HRESULT ObjetoPagina::Activate(HWND padre, LPCRECT lugar, BOOL) {
     if (ventana_.Ventana())
         return E_UNEXPECTED;
     Trabajo trabajo(*this);
-    if (!ventana_.CrearVentana(padre))
-        return E_FAIL;
+    const HRESULT creada = Proteger(*clase_.datos, [&] {
+        return ventana_.CrearVentana(padre) ? S_OK : E_FAIL;
+    });
+    if (FAILED(creada)) {
+        ventana_.DestruirVentana(); // whatever there is of it
+        return creada;
+    }
     // Drawing is no edit, and a page that can't draw a text the user left half written opens.
     const bool cambiada = ventana_.Changed();
     Proteger(*clase_.datos, [&] {
@@ -231,14 +236,16 @@ HRESULT ObjetoPagina::TranslateAccelerator(MSG* mensaje) {
     if (!mensaje)
         return E_POINTER;
     Trabajo trabajo(*this);
-    return ventana_.Pretraducir(*mensaje) ? S_OK : S_FALSE;
+    return Proteger(*clase_.datos,
+                    [&] { return ventana_.Pretraducir(*mensaje) ? S_OK : S_FALSE; });
 }
 
 HRESULT ObjetoPagina::EditProperty(DISPID propiedad) {
     const MiembroTardio* miembro = editada_.Buscar(propiedad);
     if (!miembro || !Edita(ventana_.Diseno(), miembro->nombre))
         return E_NOTIMPL;
-    return ventana_.Enfocar(miembro->nombre) ? S_OK : E_FAIL;
+    return Proteger(*clase_.datos,
+                    [&] { return ventana_.Enfocar(miembro->nombre) ? S_OK : E_FAIL; });
 }
 
 } // namespace pincela::componente
