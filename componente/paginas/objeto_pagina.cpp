@@ -194,15 +194,14 @@ HRESULT ObjetoPagina::Deactivate() {
 HRESULT ObjetoPagina::GetPageInfo(PROPPAGEINFO* info) {
     if (!info)
         return E_POINTER;
-    LPOLESTR titulo = DuplicarTexto(ventana_.Diseno().titulo);
-    if (!titulo)
-        return E_OUTOFMEMORY;
-    info->pszTitle = titulo;
-    info->size = windows::MedidaDe(ventana_.Diseno());
-    info->pszDocString = nullptr;
-    info->pszHelpFile = nullptr;
+    info->pszTitle = info->pszDocString = info->pszHelpFile = nullptr;
+    info->size = {};
     info->dwHelpContext = 0;
-    return S_OK;
+    return Proteger(*clase_.datos, [&] {
+        info->size = windows::MedidaDe(ventana_.Diseno());
+        info->pszTitle = DuplicarTexto(ventana_.Diseno().titulo);
+        return info->pszTitle ? S_OK : E_OUTOFMEMORY;
+    });
 }
 
 HRESULT ObjetoPagina::Show(UINT modo) {

@@ -83,6 +83,7 @@ TEST_CASE("A control loaded without memory says so, keeps what it had, and can b
             return control.Como<IPersistStreamInit>()->Load(FlujoDe(buenos).get());
         };
         const auto cargarBolsa = [&](const Puntero<IUnknown>& control) {
+            bolsa->OlvidarOperaciones(); // it remembers everything that it is asked
             return control.Como<IPersistPropertyBag>()->Load(bolsa.get(), nullptr);
         };
         const auto apurar = [&](const std::string& como, const auto& cargar) {
