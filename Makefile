@@ -1,7 +1,7 @@
 # The front of the build. `make demo` shows the component; `make test` proves it.
 
 .DEFAULT_GOAL := ocx
-.PHONY: ayuda setup setup-base setup-32 ocx ocx64 ocx32 demo test bench fuzz dist docs format tidy clean
+.PHONY: ayuda setup setup-base setup-32 ocx ocx64 ocx32 demo test bench fuzz soak dist docs format tidy clean
 
 SHELL := /bin/bash
 H := herramientas
@@ -16,6 +16,7 @@ ayuda:
 	  'make test    every test: natively, and under 64- and 32-bit Wine' \
 	  'make bench   the measurements' \
 	  'make fuzz    a minute of made-up input for each reader of text and bytes' \
+	  'make soak    half an hour of use, looking for what is left behind' \
 	  'make dist    build/dist: the zip and the setup program of both widths' \
 	  'make docs    docs/manual: the reference, out of the tables of members' \
 	  'make tidy, make format, make clean'
@@ -44,6 +45,9 @@ test: setup
 fuzz: setup-base
 	@$H/instalar difuso
 	@$H/difundir
+
+soak: setup
+	@$H/remojar
 
 bench: ocx
 	@$H/construir win64 all

@@ -107,10 +107,11 @@ HRESULT ObjetoControl::GetDisplayString(DISPID dispid, BSTR* texto) {
         Exigir(LeerMiembro(dispid, valor));
         const std::int32_t numero = AEntero32(valor);
         for (const MiembroEnumeracion& uno : EnumeracionDe(miembro->tipo.enumeracion).miembros)
-            if (uno.valor == numero)
+            if (uno.valor == numero) {
                 *texto = SysAllocString(uno.nombre);
-        if (!*texto)
-            *texto = HaciaBstr(EnteroATexto(numero));
+                return *texto ? S_OK : E_OUTOFMEMORY;
+            }
+        *texto = HaciaBstr(EnteroATexto(numero));
         return S_OK;
     });
 }

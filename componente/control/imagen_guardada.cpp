@@ -173,15 +173,18 @@ Bytes GuardarImagen(const Imagen& imagen) {
 }
 
 Imagen RestaurarImagen(const Bytes& bytes) {
+    Cabecera cabecera{};
+    if (bytes.size() < sizeof cabecera)
+        Lanzar(NumeroError::TiposNoCoinciden);
+    std::memcpy(&cabecera, bytes.data(), sizeof cabecera);
+    if (cabecera.firma != FirmaDeImagen)
+        Lanzar(NumeroError::TiposNoCoinciden);
+    // The image alone: some platforms keep as much of it as the whole stream is long.
     Ptr<IStream> flujo;
     Exigir(CreateStreamOnHGlobal(nullptr, TRUE, flujo.Recibir()));
-    Exigir(flujo->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr));
+    Exigir(flujo->Write(bytes.data() + sizeof cabecera,
+                        static_cast<ULONG>(bytes.size() - sizeof cabecera), nullptr));
     Exigir(flujo->Seek({}, STREAM_SEEK_SET, nullptr));
-    Cabecera cabecera{};
-    ULONG leidos = 0;
-    Exigir(flujo->Read(&cabecera, sizeof cabecera, &leidos));
-    if (leidos != sizeof cabecera || cabecera.firma != FirmaDeImagen)
-        Lanzar(NumeroError::TiposNoCoinciden);
     Ptr<IPicture> imagen;
     Exigir(OleLoadPicture(flujo.get(), static_cast<LONG>(cabecera.largo), FALSE, IID_IPicture,
                           imagen.RecibirVacio()));

@@ -167,8 +167,13 @@ HRESULT ObjetoPagina::Activate(HWND padre, LPCRECT lugar, BOOL) {
     if (ventana_.Ventana())
         return E_UNEXPECTED;
     Trabajo trabajo(*this);
-    if (!ventana_.CrearVentana(padre))
-        return E_FAIL;
+    const HRESULT creada = Proteger(*clase_.datos, [&] {
+        return ventana_.CrearVentana(padre) ? S_OK : E_FAIL;
+    });
+    if (FAILED(creada)) {
+        ventana_.DestruirVentana(); // whatever there is of it
+        return creada;
+    }
     // Drawing is no edit, and a page that can't draw a text the user left half written opens.
     const bool cambiada = ventana_.Changed();
     Proteger(*clase_.datos, [&] {
@@ -189,15 +194,14 @@ HRESULT ObjetoPagina::Deactivate() {
 HRESULT ObjetoPagina::GetPageInfo(PROPPAGEINFO* info) {
     if (!info)
         return E_POINTER;
-    LPOLESTR titulo = DuplicarTexto(ventana_.Diseno().titulo);
-    if (!titulo)
-        return E_OUTOFMEMORY;
-    info->pszTitle = titulo;
-    info->size = windows::MedidaDe(ventana_.Diseno());
-    info->pszDocString = nullptr;
-    info->pszHelpFile = nullptr;
+    info->pszTitle = info->pszDocString = info->pszHelpFile = nullptr;
+    info->size = {};
     info->dwHelpContext = 0;
-    return S_OK;
+    return Proteger(*clase_.datos, [&] {
+        info->size = windows::MedidaDe(ventana_.Diseno());
+        info->pszTitle = DuplicarTexto(ventana_.Diseno().titulo);
+        return info->pszTitle ? S_OK : E_OUTOFMEMORY;
+    });
 }
 
 HRESULT ObjetoPagina::Show(UINT modo) {
@@ -231,14 +235,16 @@ HRESULT ObjetoPagina::TranslateAccelerator(MSG* mensaje) {
     if (!mensaje)
         return E_POINTER;
     Trabajo trabajo(*this);
-    return ventana_.Pretraducir(*mensaje) ? S_OK : S_FALSE;
+    return Proteger(*clase_.datos,
+                    [&] { return ventana_.Pretraducir(*mensaje) ? S_OK : S_FALSE; });
 }
 
 HRESULT ObjetoPagina::EditProperty(DISPID propiedad) {
     const MiembroTardio* miembro = editada_.Buscar(propiedad);
     if (!miembro || !Edita(ventana_.Diseno(), miembro->nombre))
         return E_NOTIMPL;
-    return ventana_.Enfocar(miembro->nombre) ? S_OK : E_FAIL;
+    return Proteger(*clase_.datos,
+                    [&] { return ventana_.Enfocar(miembro->nombre) ? S_OK : E_FAIL; });
 }
 
 } // namespace pincela::componente

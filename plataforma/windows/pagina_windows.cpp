@@ -199,7 +199,11 @@ INT_PTR CALLBACK PaginaWindows::Procesar(HWND ventana, UINT mensaje, WPARAM w, L
         return FALSE; // whoever shows the page says where the focus goes
     }
     auto* pagina = reinterpret_cast<PaginaWindows*>(::GetWindowLongPtrW(ventana, DWLP_USER));
-    return pagina && pagina->Tratar(mensaje, w, l);
+    try {
+        return pagina && pagina->Tratar(mensaje, w, l);
+    } catch (...) {
+        return FALSE; // no memory: what was not drawn is drawn the next time
+    }
 }
 
 bool PaginaWindows::Tratar(UINT mensaje, WPARAM w, LPARAM l) {
@@ -230,11 +234,16 @@ HWND PaginaWindows::Duena() const {
 void PaginaWindows::Avisar(const std::function<void()>& manejador) {
     sitio_.Sostener();
     try {
-        manejador();
-    } catch (const ErrorEjecucion& error) {
-        const Texto descripcion = DescripcionDe(error.Numero());
-        ::MessageBoxW(Duena(), Ancho(descripcion), TituloDeMensajes, MB_OK | MB_ICONEXCLAMATION);
-    } catch (const std::exception&) {
+        Texto descripcion;
+        try {
+            manejador();
+        } catch (const ErrorEjecucion& error) {
+            descripcion = DescripcionDe(error.Numero());
+        }
+        if (!descripcion.empty())
+            ::MessageBoxW(Duena(), Ancho(descripcion), TituloDeMensajes,
+                          MB_OK | MB_ICONEXCLAMATION);
+    } catch (...) {
         // No memory: the page stays as it is.
     }
     sitio_.Soltar();

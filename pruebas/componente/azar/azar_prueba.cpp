@@ -293,8 +293,9 @@ TEST_CASE("Random sequences end in statuses and leave nothing behind") {
                                  L"Pincela.TboxSS", L"Pincela.TboxSSML"});
     // The file stays loaded, as it does in a program.
     AbrirOle();
-    const Componente componente = Componente::DeFichero(RutaComponente());
-    static const memoria::Fallos cuenta(GetModuleHandleW(L"Pincela.ocx"));
+    static const Componente& componente = *new Componente(Componente::DeFichero(RutaComponente()));
+    static const memoria::Fallos& cuenta = *new memoria::Fallos(GetModuleHandleW(L"Pincela.ocx"));
+    REQUIRE((componente.PuedeDescargarse() && cuenta.Contando()));
     Azar azar(20261121);
     Maltratar(azar, std::min(10 * PorControl, Sucesiones / 6), clase);
     const int gdi = ObjetosGdi(), ventanas = Ventanas();

@@ -39,19 +39,6 @@ LONG WINAPI AlFallar(EXCEPTION_POINTERS* que) {
         std::snprintf(texto, sizeof texto, "access violation in %s at +0x%llx", fichero,
                       static_cast<unsigned long long>(lugar - reinterpret_cast<char*>(modulo)));
         Contar(texto);
-        {
-#ifdef _WIN64
-            auto* sp = reinterpret_cast<ULONG_PTR*>(que->ContextRecord->Rsp);
-#else
-            auto* sp = reinterpret_cast<ULONG_PTR*>(que->ContextRecord->Esp);
-#endif
-            auto b = reinterpret_cast<ULONG_PTR>(GetModuleHandleW(L"Pincela.ocx"));
-            printf("base %llx\n", (unsigned long long)b);
-            for (int i = 0; i < 400; ++i)
-                if (sp[i] > b && sp[i] < b + 0x90000)
-                    std::printf(" +0x%llx", static_cast<unsigned long long>(sp[i] - b));
-            printf("\n"); fflush(stdout);
-        }
         std::_Exit(5);
     }
     return EXCEPTION_CONTINUE_SEARCH;
@@ -164,7 +151,7 @@ void Adornar(IDispatch* objeto) {
     poner(L"BackStyle", 0L);
     for (const wchar_t* fuente : {L"Font", L"Fuente", L"FuenteEtic"})
         ponerRef(fuente, CrearFuente(L"Arial", 11, true));
-    const auto imagen = CrearImagen(CreateBitmap(8, 8, 1, 32, nullptr));
+    const auto imagen = CrearImagen(CreateBitmap(8, 8, 1, 24, nullptr));
     ponerRef(L"ImagNormal", imagen);
     ponerRef(L"ImagSobre", imagen);
     ponerRef(L"MouseIcon", CrearImagen(CopyIcon(LoadIconW(nullptr, IDI_APPLICATION))));

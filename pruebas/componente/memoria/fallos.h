@@ -19,6 +19,8 @@ enum class Escasez {
 class Fallos {
   public:
     explicit Fallos(HMODULE modulo);
+    /// Whether it found the calls that it counts.
+    bool Contando() const { return desvio_.Cuantas() > 30; }
 
     /// From now on: requests of that kind are counted from 1, and the `cual`-th is refused; with
     /// `todos`, each one that follows too. 0 refuses none.

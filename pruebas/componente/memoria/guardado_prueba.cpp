@@ -74,13 +74,16 @@ TEST_CASE("A control saved without memory says so, and can be saved afterwards")
 TEST_CASE("A control loaded without memory says so, keeps what it had, and can be loaded afterwards") {
     Mesa& mesa = Mesa::La();
     ConCadaControl([&](const wchar_t* clase, const std::string& que, const Negativa& negativa) {
-        const auto modelo = Adornado(clase);
+        // Loaded once itself: a picture is kept in another way than it was first made.
+        const auto modelo = mesa.Crear(clase);
+        REQUIRE(modelo.Como<IPersistStreamInit>()->Load(FlujoDe(Guardado(Adornado(clase))).get()) == S_OK);
         const BytesDeFlujo buenos = Guardado(modelo);
         const auto bolsa = BolsaDe(modelo);
         const auto cargarFlujo = [&](const Puntero<IUnknown>& control) {
             return control.Como<IPersistStreamInit>()->Load(FlujoDe(buenos).get());
         };
         const auto cargarBolsa = [&](const Puntero<IUnknown>& control) {
+            bolsa->OlvidarOperaciones(); // it remembers everything that it is asked
             return control.Como<IPersistPropertyBag>()->Load(bolsa.get(), nullptr);
         };
         const auto apurar = [&](const std::string& como, const auto& cargar) {

@@ -26,22 +26,6 @@ TEST_CASE("The drawing class without memory draws or says so, and draws afterwar
             CHECK(degradar() == S_OK);
             CHECK(lamina.Pixel(30, 15) != publicado::Lamina::Limpia);
         });
-        Apurar("shape", negativa, [&](const Intento& intentar) {
-            const HWND ventana = CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 60, 30, nullptr, nullptr,
-                                                 nullptr, nullptr);
-            const auto miembro = Numero(efectos.get(), L"DarForma");
-            intentar([&] {
-                try {
-                    Invocar(efectos.get(), miembro, DISPATCH_METHOD,
-                            {static_cast<long>(HandleToLong(ventana)), 60L, 30L, 1L, 8.0f, 8.0f});
-                    return S_OK;
-                } catch (const FalloCom& fallo) {
-                    // Its record is more than late callers can make.
-                    return fallo.estado == E_OUTOFMEMORY ? E_OUTOFMEMORY : S_OK;
-                }
-            });
-            DestroyWindow(ventana);
-        });
     });
 }
 

@@ -1,4 +1,5 @@
 // Ten thousand times the same thing leaves nothing behind.
+#include "pruebas/componente/comun/modulo.h"
 #include "pruebas/componente/vivo/banco.h"
 #include "pruebas/componente/vivo/recuento.h"
 
@@ -98,6 +99,28 @@ TEST_CASE("1,000 buttons made, shown, used and destroyed leave nothing behind") 
             CHECK(b.forma->Quitar(*boton) == 0);
             b.forma->BombearMensajes();
             b.Olvidar();
+        }
+    });
+}
+
+TEST_CASE("The component loaded and unloaded 200 times leaves nothing behind") {
+    AbrirOle();
+    NoDejaNada("load", 200, [](int veces) {
+        for (int vez = 0; vez < veces; ++vez) {
+            const publicado::Modulo modulo;
+            REQUIRE(modulo.PuedeDescargarse() == S_OK);
+            for (const publicado::Clase& una : publicado::Clases) {
+                Puntero<IClassFactory> fabrica;
+                Puntero<IUnknown> objeto;
+                REQUIRE(modulo.DarClase(publicado::Guid(una.clase), IID_IClassFactory,
+                                        fabrica.RecibirVoid()) == S_OK);
+                REQUIRE(fabrica->CreateInstance(nullptr, IID_IUnknown, objeto.RecibirVoid()) == S_OK);
+                // A value that is refused goes through everything that errors go through.
+                if (una.genero == publicado::Genero::Control)
+                    CHECK_THROWS_AS(anfitrion::Poner(objeto.Como<IDispatch>().get(), L"MousePointer",
+                                                     L"nada"),
+                                    FalloCom);
+            }
         }
     });
 }
