@@ -235,8 +235,13 @@ void ControlAlojado::AmbienteCambiado(DISPID numero) {
 }
 
 void ControlAlojado::Dibujar(HDC hdc) const {
+    if (!enSitio_ && visible_)
+        Retratar(hdc);
+}
+
+void ControlAlojado::Retratar(HDC hdc) const {
     const auto vista = Como<IViewObject>();
-    if (!vista || enSitio_ || !visible_)
+    if (!vista)
         return;
     const RECTL rectangulo{rectangulo_.left, rectangulo_.top, rectangulo_.right,
                            rectangulo_.bottom};

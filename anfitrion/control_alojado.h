@@ -101,6 +101,8 @@ class ControlAlojado : public std::enable_shared_from_this<ControlAlojado> {
     void AmbienteCambiado(DISPID numero);
     /// Draws a control that is not in-place active.
     void Dibujar(HDC hdc) const;
+    /// Draws the control at its place, active or not.
+    void Retratar(HDC hdc) const;
 
     /// Orderly end; answers the count left by the last release (0 when nobody else holds the
     /// control). Harmless the second time.

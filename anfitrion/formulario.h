@@ -40,6 +40,9 @@ class Formulario {
     /// Client area, in pixels.
     SIZE Medida() const;
     void PonerMedida(const SIZE& medida);
+    /// Draws every visible control, active or not, and what stands on it; the background is the
+    /// caller's.
+    void Dibujar(HDC hdc) const;
 
     // Controls
 
@@ -94,6 +97,8 @@ class Formulario {
 
     // Design and run mode
 
+    /// The window over the controls that takes the mouse in design mode; null in run mode.
+    HWND Capa() const { return capa_; }
     bool ModoUsuario() const { return ambiente_.modoUsuario; }
     /// Announces the change to every control; in design mode a click selects.
     void PonerModoUsuario(bool usuario);
@@ -155,6 +160,7 @@ class Formulario {
     LRESULT Tratar(UINT mensaje, WPARAM w, LPARAM l);
     void Pintar(HDC hdc, const RECT& sucio);
     void PintarControles(HDC hdc, const ControlAlojado* dentro) const;
+    void DibujarControles(HDC hdc, const ControlAlojado* dentro) const;
     LRESULT TratarCapa(HWND capa, UINT mensaje, WPARAM w, LPARAM l);
     void AlActivarVentana(bool activa);
     std::vector<Parada> Paradas() const;

@@ -154,6 +154,24 @@ void Formulario::PintarControles(HDC hdc, const ControlAlojado* dentro) const {
         control->Dibujar(hdc);
 }
 
+void Formulario::Dibujar(HDC hdc) const {
+    DibujarControles(hdc, nullptr);
+}
+
+void Formulario::DibujarControles(HDC hdc, const ControlAlojado* dentro) const {
+    for (const auto& control : ControlesEn(dentro)) {
+        if (!control->Visible())
+            continue;
+        control->Retratar(hdc);
+        const RECT& r = control->Rectangulo();
+        const int estado = SaveDC(hdc);
+        IntersectClipRect(hdc, r.left, r.top, r.right, r.bottom);
+        OffsetViewportOrgEx(hdc, r.left, r.top, nullptr);
+        DibujarControles(hdc, control.get());
+        RestoreDC(hdc, estado);
+    }
+}
+
 SIZE Formulario::Medida() const {
     RECT r{};
     GetClientRect(ventana_, &r);
