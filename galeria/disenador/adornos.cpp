@@ -1,6 +1,6 @@
 #include "galeria/disenador/adornos.h"
 
-#include "galeria/escala.h"
+#include "galeria/trazos.h"
 
 namespace galeria {
 
@@ -10,16 +10,10 @@ using diseno::Caja;
 namespace {
 
 constexpr wchar_t Clase[] = L"GaleriaAdornos";
-constexpr COLORREF Acento = RGB(37, 99, 235);
 constexpr COLORREF Segundo = RGB(100, 116, 139);
-constexpr COLORREF Relleno = RGB(255, 255, 255);
 
 RECT Rect(const Caja& c) {
     return {c.izquierda, c.arriba, c.derecha, c.abajo};
-}
-
-int Grueso() {
-    return std::max(1, Escala(1));
 }
 
 /// Just outside of a control.
@@ -42,17 +36,6 @@ void SumarMarco(HRGN forma, const Caja& c) {
           RECT{r.left, r.top, r.left + g, r.bottom},
           RECT{r.right - g, r.top, r.right, r.bottom}})
         Sumar(forma, lado);
-}
-
-void Llenar(HDC hdc, const RECT& r, COLORREF color) {
-    SetDCBrushColor(hdc, color);
-    FillRect(hdc, &r, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-}
-
-void PintarAgarre(HDC hdc, RECT r, COLORREF borde, COLORREF relleno) {
-    Llenar(hdc, r, borde);
-    InflateRect(&r, -Grueso(), -Grueso());
-    Llenar(hdc, r, relleno);
 }
 
 } // namespace
@@ -130,10 +113,10 @@ void Adornos::Formar() {
 
 void Adornos::Pintar(HDC hdc) const {
     if (banda_)
-        Llenar(hdc, Rect(*banda_), Acento);
+        Llenar(hdc, Rect(*banda_), ColorAcento);
     for (std::size_t i = elegidas_.size(); i-- > 0;) {
         const Caja& caja = elegidas_[i];
-        const COLORREF color = i == 0 ? Acento : Segundo;
+        const COLORREF color = i == 0 ? ColorAcento : Segundo;
         const HRGN linea = CreateRectRgn(0, 0, 0, 0);
         SumarMarco(linea, Marco(caja));
         SetDCBrushColor(hdc, color);
@@ -141,8 +124,8 @@ void Adornos::Pintar(HDC hdc) const {
         DeleteObject(linea);
         // Solid where they can't be dragged.
         for (const Agarre agarre : diseno::Agarres)
-            PintarAgarre(hdc, Rect(CajaDe(caja, agarre, Lado())), color,
-                         elegidas_.size() == 1 ? Relleno : color);
+            Enmarcar(hdc, Rect(CajaDe(caja, agarre, Lado())), color,
+                     elegidas_.size() == 1 ? ColorTarjeta : color);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "galeria/disenador/barra.h"
 
-#include "galeria/escala.h"
+#include "galeria/trazos.h"
 
 #include <algorithm>
 
@@ -8,25 +8,8 @@ namespace galeria {
 
 namespace {
 
-constexpr COLORREF Lamina = RGB(243, 245, 249);
-constexpr COLORREF Cara = RGB(255, 255, 255);
-constexpr COLORREF CaraApretada = RGB(219, 234, 254);
-constexpr COLORREF Borde = RGB(203, 213, 225);
-constexpr COLORREF Acento = RGB(37, 99, 235);
-constexpr COLORREF Letra = RGB(31, 41, 55);
-constexpr COLORREF LetraFloja = RGB(156, 163, 175);
+constexpr COLORREF LetraInutil = RGB(156, 163, 175);
 constexpr int Hueco = 4, HuecoGrande = 14;
-
-void Llenar(HDC hdc, const RECT& r, COLORREF color) {
-    SetDCBrushColor(hdc, color);
-    FillRect(hdc, &r, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-}
-
-void Enmarcar(HDC hdc, RECT r, COLORREF borde, COLORREF cara, int grueso) {
-    Llenar(hdc, r, borde);
-    InflateRect(&r, -grueso, -grueso);
-    Llenar(hdc, r, cara);
-}
 
 /// Scaled to the screen, with its upper left pixel's colour left out. Answers the width.
 int PintarImagen(HDC hdc, HBITMAP imagen, int x, const RECT& r) {
@@ -123,20 +106,20 @@ bool Barra::Recibir(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado) {
 void Barra::Pintar(const DRAWITEMSTRUCT& pedido, const Boton& boton) const {
     const HDC hdc = pedido.hDC;
     RECT r = pedido.rcItem;
-    const int grueso = std::max(1, Escala(1));
+    const int grueso = Grueso();
     const bool apretado = boton.marcado || pedido.itemState & ODS_SELECTED;
     const bool vale = !(pedido.itemState & ODS_DISABLED);
     const bool foco = pedido.itemState & ODS_FOCUS;
-    Enmarcar(hdc, r, apretado || foco ? Acento : Borde,
-             apretado ? CaraApretada
-             : vale   ? Cara
-                      : Lamina,
+    Enmarcar(hdc, r, apretado || foco ? ColorAcento : ColorBorde,
+             apretado ? ColorElegido
+             : vale   ? ColorTarjeta
+                      : ColorLamina,
              foco ? 2 * grueso : grueso);
     wchar_t texto[80];
     const int largo = GetWindowTextW(boton.ventana, texto, 80);
     const HGDIOBJ anterior = SelectObject(hdc, fuente_);
     SetBkMode(hdc, TRANSPARENT);
-    SetTextColor(hdc, vale ? Letra : LetraFloja);
+    SetTextColor(hdc, vale ? ColorLetra : LetraInutil);
     UINT formato = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_CENTER;
     if (boton.imagen) {
         r.left += Escala(7);

@@ -39,6 +39,13 @@ void Reponer(const ControlAlojado& control, const Propiedad& propiedad,
 
 } // namespace
 
+std::vector<std::wstring> NombresElegidos(const Formulario& forma) {
+    std::vector<std::wstring> nombres;
+    for (const auto& control : forma.Seleccion())
+        nombres.push_back(control->Nombre());
+    return nombres;
+}
+
 Foto Retratar(const Formulario& forma, Examinador& examinador) {
     Foto foto;
     foto.texto = EscribirFormulario(forma);
@@ -48,8 +55,7 @@ Foto Retratar(const Formulario& forma, Examinador& examinador) {
                 if (std::wstring escrito = Escrito(*control, propiedad); !escrito.empty())
                     foto.valores.push_back(
                         {control->Nombre(), propiedad.nombre, std::move(escrito)});
-    for (const auto& control : forma.Seleccion())
-        foto.seleccion.push_back(control->Nombre());
+    foto.seleccion = NombresElegidos(forma);
     return foto;
 }
 

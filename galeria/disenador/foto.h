@@ -29,12 +29,15 @@ struct Foto {
 
     std::wstring texto;
     std::vector<Valor> valores;
-    std::vector<std::wstring> seleccion; ///< names; not part of what the form holds
+    /// Names of what was chosen last while the form was like this; not compared.
+    std::vector<std::wstring> seleccion;
 
     friend bool operator==(const Foto& a, const Foto& b) {
         return a.texto == b.texto && a.valores == b.valores;
     }
 };
+
+std::vector<std::wstring> NombresElegidos(const anfitrion::Formulario& forma);
 
 Foto Retratar(const anfitrion::Formulario& forma, Examinador& examinador);
 

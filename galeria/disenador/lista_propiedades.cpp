@@ -1,7 +1,7 @@
 #include "galeria/disenador/lista_propiedades.h"
 
 #include "anfitrion/unidades.h"
-#include "galeria/escala.h"
+#include "galeria/trazos.h"
 
 #include <commctrl.h>
 #include <windowsx.h>
@@ -14,20 +14,10 @@ using namespace anfitrion;
 
 namespace {
 
-constexpr COLORREF Fondo = RGB(255, 255, 255);
-constexpr COLORREF Letra = RGB(31, 41, 55);
-constexpr COLORREF LetraFloja = RGB(107, 114, 128);
 constexpr COLORREF Linea = RGB(229, 231, 235);
-constexpr COLORREF FondoElegido = RGB(219, 234, 254);
-constexpr COLORREF Acento = RGB(37, 99, 235);
 
 int AnchoDelBoton() {
     return Escala(20);
-}
-
-void Llenar(HDC hdc, const RECT& r, COLORREF color) {
-    SetDCBrushColor(hdc, color);
-    FillRect(hdc, &r, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
 void Escribir(HDC hdc, const std::wstring& texto, RECT r, COLORREF color) {
@@ -50,20 +40,20 @@ bool ConBoton(const Renglon& renglon) {
 }
 
 void PintarBoton(HDC hdc, const RECT& r, bool flecha) {
-    const int cx = (r.left + r.right) / 2, cy = (r.top + r.bottom) / 2, u = std::max(1, Escala(1));
+    const int cx = (r.left + r.right) / 2, cy = (r.top + r.bottom) / 2, u = Grueso();
     if (flecha) {
         for (int i = 0; i < 4 * u; ++i)
             Llenar(hdc, {cx - 4 * u + i, cy - 2 * u + i, cx + 4 * u - i + 1, cy - 2 * u + i + 1},
-                   Letra);
+                   ColorLetra);
         return;
     }
     for (const int x : {cx - 5 * u, cx - u, cx + 3 * u})
-        Llenar(hdc, {x, cy + u, x + 2 * u, cy + 3 * u}, Letra);
+        Llenar(hdc, {x, cy + u, x + 2 * u, cy + 3 * u}, ColorLetra);
 }
 
 /// Where names end and values begin.
 int Medianera(const RECT& fila) {
-    return static_cast<int>(fila.left + Ancho(fila) * 9 / 20);
+    return static_cast<int>(fila.left + Ancho(fila) / 2);
 }
 
 } // namespace
@@ -157,20 +147,20 @@ bool ListaPropiedades::Recibir(UINT mensaje, WPARAM w, LPARAM l, LRESULT& result
 void ListaPropiedades::Pintar(const DRAWITEMSTRUCT& pedido) const {
     const HDC hdc = pedido.hDC;
     RECT fila = pedido.rcItem;
-    Llenar(hdc, fila, Fondo);
+    Llenar(hdc, fila, ColorTarjeta);
     if (pedido.itemID >= hoja_.Renglones().size())
         return;
     const Renglon& renglon = hoja_.Renglones()[pedido.itemID];
     const bool elegida = pedido.itemState & ODS_SELECTED;
     const HGDIOBJ anterior = SelectObject(hdc, fuente_);
-    const int grueso = std::max(1, Escala(1)), mitad = Medianera(fila);
+    const int grueso = galeria::Grueso(), mitad = Medianera(fila);
     if (elegida)
-        Llenar(hdc, fila, FondoElegido);
+        Llenar(hdc, fila, ColorElegido);
     if (elegida && GetFocus() == lista_)
-        Llenar(hdc, {fila.left, fila.top, fila.left + 3 * grueso, fila.bottom}, Acento);
+        Llenar(hdc, {fila.left, fila.top, fila.left + 3 * grueso, fila.bottom}, ColorAcento);
     Llenar(hdc, {fila.left, fila.bottom - grueso, fila.right, fila.bottom}, Linea);
     Llenar(hdc, {mitad, fila.top, mitad + grueso, fila.bottom}, Linea);
-    const COLORREF letra = renglon.propiedad.SoloLectura() ? LetraFloja : Letra;
+    const COLORREF letra = renglon.propiedad.SoloLectura() ? ColorLetraFloja : ColorLetra;
     Escribir(hdc, renglon.propiedad.nombre,
              {fila.left + Escala(8), fila.top, mitad - Escala(2), fila.bottom - grueso}, letra);
     RECT valor{mitad + grueso + Escala(6), fila.top, fila.right - Escala(2), fila.bottom - grueso};
@@ -187,10 +177,8 @@ void ListaPropiedades::PintarValor(HDC hdc, RECT r, const Renglon& renglon, COLO
     if (renglon.muestra) {
         COLORREF color = 0;
         OleTranslateColor(*renglon.muestra, nullptr, &color);
-        RECT cuadro{r.left, r.top + Escala(5), r.left + Escala(18), r.bottom - Escala(5)};
-        Llenar(hdc, cuadro, LetraFloja);
-        InflateRect(&cuadro, -std::max(1, Escala(1)), -std::max(1, Escala(1)));
-        Llenar(hdc, cuadro, color);
+        Enmarcar(hdc, {r.left, r.top + Escala(5), r.left + Escala(18), r.bottom - Escala(5)},
+                 ColorLetraFloja, color);
         r.left += Escala(24);
     }
     Escribir(hdc, renglon.valor, r, letra);
@@ -201,7 +189,7 @@ RECT ListaPropiedades::LugarDelValor() const {
     SendMessageW(lista_, LB_GETITEMRECT,
                  static_cast<WPARAM>(SendMessageW(lista_, LB_GETCURSEL, 0, 0)),
                  reinterpret_cast<LPARAM>(&fila));
-    fila.left = Medianera(fila) + std::max(1, Escala(1));
+    fila.left = Medianera(fila) + Grueso();
     return fila;
 }
 

@@ -5,7 +5,7 @@
 #include "anfitrion/imagenes.h"
 #include "anfitrion/marco_propiedades.h"
 #include "galeria/disenador/portapapeles.h"
-#include "galeria/escala.h"
+#include "galeria/trazos.h"
 
 #include <algorithm>
 
@@ -32,16 +32,25 @@ OpcionesFormulario Opciones(HWND padre, SIZE medida) {
     return opciones;
 }
 
-void LlenarDePapel(HDC hdc, const RECT& r) {
-    SetDCBrushColor(hdc, Papel);
-    FillRect(hdc, &r, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-}
-
 void PintarPuntos(HDC hdc, const RECT& sucio, int paso) {
+    const int lado = Grueso();
     for (LONG y = sucio.top - sucio.top % paso; y < sucio.bottom; y += paso)
         for (LONG x = sucio.left - sucio.left % paso; x < sucio.right; x += paso)
-            SetPixelV(hdc, x, y, Puntito);
+            Llenar(hdc, {x, y, x + lado, y + lado}, Puntito);
 }
+
+/// A mark that is on for the length of a call.
+class Encendida {
+  public:
+    explicit Encendida(bool& marca) : marca_(marca), antes_(std::exchange(marca, true)) {}
+    Encendida(const Encendida&) = delete;
+    Encendida& operator=(const Encendida&) = delete;
+    ~Encendida() { marca_ = antes_; }
+
+  private:
+    bool& marca_;
+    bool antes_;
+};
 
 bool EsPanel(const Mesa::Control& control) {
     return control && control->Marcas() & OLEMISC_SIMPLEFRAME;
@@ -104,11 +113,13 @@ Mesa::Mesa(const Componente& componente, HWND padre, SIZE medida)
     : componente_(componente), forma_(Opciones(padre, medida)), adornos_(forma_.Ventana()),
       rejilla_{Escala(Paso96)} {
     forma_.alPintar = [this](HDC hdc, const RECT& sucio) {
-        LlenarDePapel(hdc, sucio);
+        Llenar(hdc, sucio, Papel);
         if (!Ejecutando())
             PintarPuntos(hdc, sucio, rejilla_.paso);
     };
     forma_.alSeleccionar = [this] {
+        if (!cambiando_)
+            historia_.Actual().seleccion = NombresElegidos(forma_);
         MostrarAdornos();
         if (alCambiar)
             alCambiar();
@@ -166,6 +177,7 @@ void Mesa::Recordar(const std::string& seguido) {
 }
 
 void Mesa::Volver(const Foto& foto) {
+    const Encendida cambiando(cambiando_);
     try {
         Restaurar(forma_, componente_, examinador_, foto);
     } catch (const FalloCom& fallo) {
@@ -177,6 +189,7 @@ void Mesa::Volver(const Foto& foto) {
 bool Mesa::Cambiar(const std::function<void()>& cambio, const std::string& seguido,
                    const std::wstring& nombre) {
     const Foto antes = historia_.Actual();
+    const Encendida cambiando(cambiando_);
     try {
         cambio();
     } catch (const FalloCom& fallo) {
@@ -227,7 +240,7 @@ void Mesa::ExportarPng(const std::wstring& ruta) {
         forma_.PonerModoUsuario(true);
     const SIZE medida = forma_.Medida();
     const Captura imagen = Captura::DeDibujo(medida.cx, medida.cy, [&](HDC hdc) {
-        LlenarDePapel(hdc, {0, 0, medida.cx, medida.cy});
+        Llenar(hdc, {0, 0, medida.cx, medida.cy}, Papel);
         forma_.Dibujar(hdc);
     });
     if (disenando) {

@@ -131,7 +131,8 @@ class Mesa {
     std::wstring herramienta_;
     std::optional<diseno::Gesto> gesto_;
     Controles arrastrados_; ///< in the order of the drag's boxes
-    bool sumando_ = false;  ///< the rubber band adds to what is chosen
+    bool sumando_ = false;   ///< the rubber band adds to what is chosen
+    bool cambiando_ = false; ///< what is chosen now belongs to the state to come
 };
 
 /// Without those that stand on another one of them, in the order of the form.

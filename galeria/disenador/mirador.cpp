@@ -1,7 +1,7 @@
 #include "galeria/disenador/mirador.h"
 
 #include "anfitrion/unidades.h"
-#include "galeria/escala.h"
+#include "galeria/trazos.h"
 
 #include <windowsx.h>
 
@@ -23,11 +23,6 @@ constexpr COLORREF Borde = RGB(148, 163, 184);
 constexpr Agarre DeLaForma[] = {Agarre::DerInf, Agarre::Der, Agarre::Inf};
 constexpr int Margen96 = 14;
 constexpr int Minimo96 = 40;
-
-void Llenar(HDC hdc, const RECT& r, COLORREF color) {
-    SetDCBrushColor(hdc, color);
-    FillRect(hdc, &r, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-}
 
 } // namespace
 
@@ -147,7 +142,7 @@ void Mirador::Pintar(HDC hdc) const {
     if (!mesa_)
         return;
     const Caja forma = CajaDeLaForma();
-    const int grueso = std::max(1, Escala(1));
+    const int grueso = Grueso();
     Llenar(hdc,
            {forma.izquierda - grueso, forma.arriba - grueso, forma.derecha + grueso,
             forma.abajo + grueso},
@@ -156,10 +151,7 @@ void Mirador::Pintar(HDC hdc) const {
         return;
     for (const Agarre agarre : DeLaForma) {
         const Caja c = CajaDe(forma, agarre, Adornos::Lado());
-        RECT suyo{c.izquierda, c.arriba, c.derecha, c.abajo};
-        Llenar(hdc, suyo, Borde);
-        InflateRect(&suyo, -grueso, -grueso);
-        Llenar(hdc, suyo, RGB(255, 255, 255));
+        Enmarcar(hdc, {c.izquierda, c.arriba, c.derecha, c.abajo}, Borde, ColorTarjeta);
     }
 }
 

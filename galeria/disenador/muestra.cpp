@@ -13,12 +13,18 @@ Pincela.Area Cliente 24 24 472 224
   ColorLetra = &H008A3A1E
   Pincela.Tbox Nombre 16 40 216 48
     Caption = "Nombre"
+    BackStyle = 0
+    TipoSombra = 2
   Fin
   Pincela.Tbox Telefono 240 40 216 48
     Caption = "Teléfono"
+    BackStyle = 0
+    TipoSombra = 2
   Fin
   Pincela.TBoxML Notas 16 96 440 112
     Caption = "Notas"
+    BackStyle = 0
+    TipoSombra = 2
   Fin
 Fin
 Pincela.TboxSS Buscar 24 272 232 24

@@ -6,7 +6,7 @@
 #include "anfitrion/unidades.h"
 #include "galeria/disenador/caja_herramientas.h"
 #include "galeria/disenador/muestra.h"
-#include "galeria/escala.h"
+#include "galeria/trazos.h"
 
 #include <algorithm>
 
@@ -16,10 +16,7 @@ using namespace anfitrion;
 
 namespace {
 
-constexpr COLORREF ColorLetra = RGB(31, 41, 55);
-constexpr COLORREF ColorFlojo = RGB(75, 85, 99);
 constexpr COLORREF ColorAviso = RGB(185, 28, 28);
-constexpr COLORREF ColorBorde = RGB(203, 213, 225);
 
 // At 96 dots per inch.
 constexpr int Izquierda = 12, Derecha = AnchoPagina - 12, Columna = 692;
@@ -53,15 +50,10 @@ HFONT Gdi(const FuenteGdi& fuente) {
     return static_cast<HFONT>(fuente.get());
 }
 
-void Llenar(HDC hdc, const RECT& r, COLORREF color) {
-    SetDCBrushColor(hdc, color);
-    FillRect(hdc, &r, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-}
-
 /// The line around something that lies at a place, told at 96 dots per inch.
-void Enmarcar(HDC hdc, const RECT& lugar) {
+void Rodear(HDC hdc, const RECT& lugar) {
     RECT r = Escalar(lugar);
-    InflateRect(&r, std::max(1, Escala(1)), std::max(1, Escala(1)));
+    InflateRect(&r, Grueso(), Grueso());
     Llenar(hdc, r, ColorBorde);
 }
 
@@ -133,7 +125,7 @@ void PaginaDisenador::Armar() {
 void PaginaDisenador::PonerOrdenes() {
     ejecutar_ = OrdenDe(Orden::Ejecutar, L"Ejecutar", 84);
     ordenes_.Separar();
-    OrdenDe(Orden::Deshacer, L"Deshacer", 76);
+    OrdenDe(Orden::Deshacer, L"Deshacer", 78);
     OrdenDe(Orden::Rehacer, L"Rehacer", 72);
     ordenes_.Separar();
     OrdenDe(Orden::Cortar, L"Cortar", 62);
@@ -141,7 +133,7 @@ void PaginaDisenador::PonerOrdenes() {
     OrdenDe(Orden::Pegar, L"Pegar", 62);
     OrdenDe(Orden::Eliminar, L"Eliminar", 70);
     ordenes_.Separar();
-    OrdenDe(Orden::Propiedades, L"Páginas de propiedades...", 164);
+    OrdenDe(Orden::Propiedades, L"Propiedades...", 104);
     ordenes_.Separar();
     ordenes_.Agregar(L"Abrir...", 64, nullptr, [this] { Abrirlo(); });
     ordenes_.Agregar(L"Guardar...", 78, nullptr, [this] { Guardarlo(); });
@@ -325,26 +317,24 @@ void PaginaDisenador::ActualizarObjetos() {
 }
 
 void PaginaDisenador::Pintar(HDC hdc) const {
-    Enmarcar(hdc, LugarMesa);
+    Rodear(hdc, LugarMesa);
     if (!mesa_)
         return;
-    Enmarcar(hdc, mesa_->Ejecutando() ? LugarDiario : LugarLista);
+    Rodear(hdc, mesa_->Ejecutando() ? LugarDiario : LugarLista);
     if (!mesa_->Ejecutando())
         PintarAyuda(hdc);
 }
 
 void PaginaDisenador::PintarAyuda(HDC hdc) const {
     RECT r = Escalar(LugarAyuda);
-    Llenar(hdc, r, ColorBorde);
-    InflateRect(&r, -std::max(1, Escala(1)), -std::max(1, Escala(1)));
-    Llenar(hdc, r, ColorTarjeta);
-    InflateRect(&r, -Escala(7), -Escala(5));
+    Enmarcar(hdc, r, ColorBorde, ColorTarjeta);
+    InflateRect(&r, -Escala(8), -Escala(6));
     SetBkMode(hdc, TRANSPARENT);
     const HGDIOBJ anterior = SelectObject(hdc, negrita_.get());
     SetTextColor(hdc, ColorLetra);
     r.top += DrawTextW(hdc, propiedad_.c_str(), -1, &r, DT_SINGLELINE | DT_NOPREFIX) + Escala(2);
     SelectObject(hdc, texto_.get());
-    SetTextColor(hdc, ColorFlojo);
+    SetTextColor(hdc, ColorLetraFloja);
     DrawTextW(hdc, ayuda_.c_str(), -1, &r,
               DT_WORDBREAK | DT_NOPREFIX | DT_END_ELLIPSIS | DT_EDITCONTROL);
     SelectObject(hdc, anterior);
@@ -360,7 +350,7 @@ bool PaginaDisenador::Tratar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultad
     switch (mensaje) {
     case WM_CTLCOLORSTATIC: {
         const HDC hdc = reinterpret_cast<HDC>(w);
-        SetTextColor(hdc, aviso_ && reinterpret_cast<HWND>(l) == estado_ ? ColorAviso : ColorFlojo);
+        SetTextColor(hdc, aviso_ && reinterpret_cast<HWND>(l) == estado_ ? ColorAviso : ColorLetraFloja);
         SetBkColor(hdc, ColorLamina);
         SetDCBrushColor(hdc, ColorLamina);
         resultado = reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));

@@ -45,6 +45,8 @@ class Historia {
     void Cortar() { cortada_ = true; }
 
     const Estado& Actual() const { return estados_[actual_].estado; }
+    /// For what isn't compared.
+    Estado& Actual() { return estados_[actual_].estado; }
     bool PuedeDeshacer() const { return actual_ > 0; }
     bool PuedeRehacer() const { return actual_ + 1 < estados_.size(); }
     /// The state to go back, or forward, to; only when there is one.
