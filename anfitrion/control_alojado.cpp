@@ -229,6 +229,12 @@ Puntero<SumideroEventos> ControlAlojado::Conectar(SumideroEventos::Manejador man
     return sumidero;
 }
 
+void ControlAlojado::Desconectar(const Puntero<SumideroEventos>& sumidero) {
+    const auto sostenido = sumidero;
+    sostenido->Desconectar();
+    std::erase(sumideros_, sostenido);
+}
+
 void ControlAlojado::AmbienteCambiado(DISPID numero) {
     if (const auto control = Como<IOleControl>())
         control->OnAmbientPropertyChange(numero);

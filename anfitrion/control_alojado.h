@@ -94,6 +94,8 @@ class ControlAlojado : public std::enable_shared_from_this<ControlAlojado> {
 
     /// Connects to the default events; several handlers may be connected.
     Puntero<SumideroEventos> Conectar(SumideroEventos::Manejador manejador);
+    /// That handler hears nothing any more.
+    void Desconectar(const Puntero<SumideroEventos>& sumidero);
     /// Notices of changed properties.
     Avisos& Notificaciones() { return *avisos_.get(); }
 

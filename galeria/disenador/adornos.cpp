@@ -84,10 +84,6 @@ void Adornos::Abarcar(std::optional<Caja> banda) {
     Formar();
 }
 
-void Adornos::Subir() const {
-    SetWindowPos(ventana_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-}
-
 void Adornos::Formar() {
     const HRGN forma = CreateRectRgn(0, 0, 0, 0);
     for (const Caja& caja : elegidas_) {

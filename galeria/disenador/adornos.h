@@ -20,6 +20,9 @@ class Adornos {
   public:
     /// The window belongs to `forma`.
     explicit Adornos(HWND forma);
+    Adornos(const Adornos&) = delete;
+    Adornos& operator=(const Adornos&) = delete;
+    ~Adornos() { DestroyWindow(ventana_); }
 
     /// Side of a handle in pixels; odd, so that it has a middle.
     static int Lado();
@@ -29,8 +32,6 @@ class Adornos {
     void Mostrar(const std::vector<diseno::Caja>& elegidas);
     /// The rectangle that is being spanned.
     void Abarcar(std::optional<diseno::Caja> banda);
-    /// Above what was put on the form meanwhile.
-    void Subir() const;
 
   private:
     static LRESULT CALLBACK Procesar(HWND ventana, UINT mensaje, WPARAM w, LPARAM l);

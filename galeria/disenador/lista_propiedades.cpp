@@ -70,6 +70,12 @@ ListaPropiedades::ListaPropiedades(HWND padre, HFONT fuente, HojaPropiedades& ho
     SetWindowSubclass(lista_, ProcesarLista, 2, reinterpret_cast<DWORD_PTR>(this));
 }
 
+ListaPropiedades::~ListaPropiedades() {
+    alElegir = nullptr;
+    Cerrar();
+    RemoveWindowSubclass(lista_, ProcesarLista, 2);
+}
+
 void ListaPropiedades::Colocar(const RECT& lugar) const {
     SetWindowPos(lista_, nullptr, lugar.left, lugar.top, Ancho(lugar), Alto(lugar),
                  SWP_NOZORDER | SWP_NOACTIVATE);

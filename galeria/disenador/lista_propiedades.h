@@ -12,6 +12,7 @@ class ListaPropiedades {
     ListaPropiedades(HWND padre, HFONT fuente, HojaPropiedades& hoja, Dialogos& dialogos);
     ListaPropiedades(const ListaPropiedades&) = delete;
     ListaPropiedades& operator=(const ListaPropiedades&) = delete;
+    ~ListaPropiedades();
 
     HWND Ventana() const { return lista_; }
     void Colocar(const RECT& lugar) const;

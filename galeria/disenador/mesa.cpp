@@ -181,7 +181,7 @@ void Mesa::Volver(const Foto& foto) {
     try {
         Restaurar(forma_, componente_, examinador_, foto);
     } catch (const FalloCom& fallo) {
-        Avisar(L"No se pudo volver atrás: " + Explicar(fallo));
+        Avisar(L"No se pudo volver atrás: " + Explicar(fallo) + L".");
     }
     MostrarAdornos();
 }
@@ -194,7 +194,7 @@ bool Mesa::Cambiar(const std::function<void()>& cambio, const std::string& segui
         cambio();
     } catch (const FalloCom& fallo) {
         Volver(antes);
-        Avisar((nombre.empty() ? nombre : nombre + L": ") + Explicar(fallo) + L".");
+        Avisar((nombre.empty() ? L"No se pudo hacer" : nombre) + L": " + Explicar(fallo) + L".");
         return false;
     }
     Avisar(L"");
@@ -218,7 +218,7 @@ bool Mesa::PonerTexto(const std::wstring& texto) {
         Avisar(L"Eso no es un formulario. " + error.texto);
         return false;
     } catch (const FalloCom& fallo) {
-        Avisar(L"No se pudo abrir el formulario: " + Explicar(fallo));
+        Avisar(L"No se pudo abrir el formulario: " + Explicar(fallo) + L".");
         return false;
     }
     historia_.Empezar(Retratar(forma_, examinador_));
@@ -466,15 +466,15 @@ void Mesa::Ejecutar() {
         antesDeEjecutar_ = Retratar(forma_, examinador_);
         forma_.PonerModoUsuario(true);
         for (const auto& control : forma_.Controles())
-            oidos_.push_back(control->Conectar(
-                [this, nombre = control->Nombre()](const Evento& evento) {
+            oidos_.emplace_back(
+                control, control->Conectar([this, nombre = control->Nombre()](const Evento& evento) {
                     if (alOir)
                         alOir(nombre, evento);
                 }));
         forma_.MoverFoco(false);
     } else {
-        for (const auto& oido : oidos_)
-            oido->Desconectar();
+        for (const auto& [control, oido] : oidos_)
+            control->Desconectar(oido);
         oidos_.clear();
         forma_.PonerModoUsuario(false);
         // What was typed into the running form isn't part of its design.

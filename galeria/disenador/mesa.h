@@ -127,7 +127,8 @@ class Mesa {
     diseno::Rejilla rejilla_;
     diseno::Historia<Foto> historia_;
     std::optional<Foto> antesDeEjecutar_;
-    std::vector<anfitrion::Puntero<anfitrion::SumideroEventos>> oidos_;
+    /// Who hears each control while the form runs.
+    std::vector<std::pair<Control, anfitrion::Puntero<anfitrion::SumideroEventos>>> oidos_;
     std::wstring herramienta_;
     std::optional<diseno::Gesto> gesto_;
     Controles arrastrados_; ///< in the order of the drag's boxes

@@ -22,8 +22,8 @@ constexpr COLORREF ColorAviso = RGB(185, 28, 28);
 constexpr int Izquierda = 12, Derecha = AnchoPagina - 12, Columna = 692;
 constexpr RECT LugarMesa{Izquierda, 82, Columna - 12, AltoPagina - 36};
 constexpr RECT LugarObjetos{Columna, 82, Derecha, 106};
-constexpr RECT LugarLista{Columna + 1, 115, Derecha - 1, AltoPagina - 121};
-constexpr RECT LugarAyuda{Columna, AltoPagina - 112, Derecha, AltoPagina - 36};
+constexpr RECT LugarLista{Columna + 1, 115, Derecha - 1, AltoPagina - 123};
+constexpr RECT LugarAyuda{Columna, AltoPagina - 114, Derecha, AltoPagina - 36};
 constexpr RECT LugarDiario{Columna + 1, 115, Derecha - 1, AltoPagina - 37};
 constexpr RECT LugarEstado{Izquierda, AltoPagina - 28, Columna - 12, AltoPagina - 8};
 constexpr RECT LugarMedida{Columna, AltoPagina - 28, Derecha, AltoPagina - 8};
@@ -44,6 +44,12 @@ HWND Hacer(HWND padre, const wchar_t* clase, DWORD estilo, const RECT& lugar, HF
                         Alto(r), padre, nullptr, GetModuleHandleW(nullptr), nullptr);
     SendMessageW(ventana, WM_SETFONT, reinterpret_cast<WPARAM>(fuente), FALSE);
     return ventana;
+}
+
+/// What went wrong as a sentence of its own.
+std::wstring Frase(std::wstring que) {
+    CharUpperBuffW(que.data(), 1);
+    return que + L".";
 }
 
 HFONT Gdi(const FuenteGdi& fuente) {
@@ -80,6 +86,16 @@ PaginaDisenador::PaginaDisenador(const std::optional<Componente>& componente, HW
     marco_.alTeclear = [this](const MSG& mensaje) { return Atajo(mensaje); };
     diario_.abierto = true;
     mirador_.Colocar(Escalar(LugarMesa));
+}
+
+PaginaDisenador::~PaginaDisenador() {
+    // Windows that go still send messages.
+    marco_.alRecibir = nullptr;
+    marco_.alTeclear = nullptr;
+    marco_.alPintar = nullptr;
+    lista_.reset();
+    hoja_.reset();
+    mesa_.reset();
 }
 
 void PaginaDisenador::Armar() {
@@ -210,7 +226,7 @@ void PaginaDisenador::Abrirlo() {
     try {
         Recibir(LeerTexto(*ruta));
     } catch (const ErrorDeFichero& error) {
-        Avisar(error.texto);
+        Avisar(Frase(error.texto));
     }
 }
 
@@ -222,7 +238,7 @@ void PaginaDisenador::Guardarlo() {
         EscribirTexto(*ruta, mesa_->Texto());
         Avisar(L"");
     } catch (const ErrorDeFichero& error) {
-        Avisar(error.texto);
+        Avisar(Frase(error.texto));
     }
 }
 
@@ -234,7 +250,7 @@ void PaginaDisenador::Exportarlo() {
         mesa_->ExportarPng(*ruta);
         Avisar(L"");
     } catch (const FalloCom&) {
-        Avisar(L"no se puede escribir «" + *ruta + L"»");
+        Avisar(L"No se puede escribir «" + *ruta + L"».");
     }
 }
 
@@ -255,10 +271,6 @@ void PaginaDisenador::Avisar(const std::wstring& texto) {
     else if (!aviso_)
         frase = L"Supr elimina; las flechas mueven, con Mayús cambian la medida y con Ctrl van de a "
                 L"un píxel.";
-    else if (IsCharLowerW(frase.front()))
-        frase.front() = static_cast<wchar_t>(
-            LOWORD(reinterpret_cast<ULONG_PTR>(CharUpperW(reinterpret_cast<LPWSTR>(
-                static_cast<ULONG_PTR>(frase.front()))))));
     SetWindowTextW(estado_, frase.c_str());
 }
 

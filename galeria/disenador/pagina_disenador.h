@@ -18,6 +18,7 @@ class PaginaDisenador final : public Pagina {
   public:
     /// A null component leaves the page without a form.
     PaginaDisenador(const std::optional<anfitrion::Componente>& componente, HWND padre);
+    ~PaginaDisenador() override;
 
     anfitrion::Formulario& Forma() override { return marco_; }
     void Armar() override;

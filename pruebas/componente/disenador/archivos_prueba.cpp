@@ -1,5 +1,6 @@
 // Forms in files: saved, opened, and as a picture.
 #include "anfitrion/fichero_texto.h"
+#include "galeria/pagina_paneles.h"
 #include "pruebas/componente/disenador/banco.h"
 
 #include <wincodec.h>
@@ -124,10 +125,21 @@ TEST_CASE("The form is exported as a picture, without the designer's marks") {
     CHECK_FALSE(b.mesa->Ejecutando());
 }
 
-TEST_CASE("The pages of samples can be taken into the designer") {
+TEST_CASE("The sample shows panels, boxes and buttons") {
     Banco b;
     b.pagina->Ensayar();
     CHECK(b.mesa->Forma().Controles().size() == 7);
     CHECK(b.Elegidos() == "Aceptar ");
     CHECK(b.Lugares().find("  Pincela.Tbox Nombre 16 40 ") != std::string::npos);
+}
+
+TEST_CASE("The form of another page is taken into the designer as it is") {
+    Banco b;
+    PaginaPaneles paneles(b.componente, b.marco.Ventana());
+    paneles.Armar();
+    const std::wstring suyo = paneles.ParaDisenar();
+    b.pagina->Recibir(suyo);
+    CHECK(b.mesa->Forma().Controles().size() == paneles.Forma().Controles().size());
+    CHECK(b.Texto() == Estrechar(suyo));
+    CHECK(b.pagina->ParaDisenar().empty());
 }

@@ -1,5 +1,6 @@
 // The designer's mouse: placing, choosing, moving and sizing.
 #include "pruebas/componente/disenador/banco.h"
+#include "pruebas/componente/vivo/banco.h"
 
 using namespace disenador;
 
@@ -119,4 +120,37 @@ TEST_CASE("The edge of the form sizes it, and that can be undone") {
     CHECK(b.Texto().starts_with("Formulario 400 360 "));
     b.mesa->Hacer(Orden::Deshacer);
     CHECK(b.Texto().starts_with("Formulario 480 320 "));
+}
+
+TEST_CASE("The user's own mouse moves and sizes: nothing lies between it and the form") {
+    Banco b;
+    b.Poner(DosBotones + UnPanel);
+    SetForegroundWindow(b.marco.Ventana());
+    const auto llevar = [&](int x, int y) {
+        vivo::LlevarRaton(b.mesa->Forma().Ventana(), x, y);
+        b.mesa->Forma().Esperar(60);
+    };
+    const auto apretar = [&](DWORD que) {
+        vivo::Raton(que);
+        b.mesa->Forma().Esperar(60);
+    };
+    llevar(30, 30);
+    apretar(MOUSEEVENTF_LEFTDOWN);
+    llevar(50, 60);
+    llevar(62, 270);
+    apretar(MOUSEEVENTF_LEFTUP);
+    CHECK(b.Lugares().starts_with("Pincela.Botonazo Uno 48 256 80 32|"));
+    CHECK(b.Elegidos() == "Uno ");
+    const int medio = Adornos::Lado() / 2;
+    llevar(128 + medio, 288 + medio);
+    apretar(MOUSEEVENTF_LEFTDOWN);
+    llevar(150 + medio, 290 + medio);
+    llevar(152 + medio, 296 + medio);
+    apretar(MOUSEEVENTF_LEFTUP);
+    CHECK(b.Lugares().starts_with("Pincela.Botonazo Uno 48 256 104 40|"));
+    // Inside a panel, over a field that is a window of its own.
+    llevar(180, 130);
+    apretar(MOUSEEVENTF_LEFTDOWN);
+    apretar(MOUSEEVENTF_LEFTUP);
+    CHECK(b.Elegidos() == "Dentro ");
 }
