@@ -148,6 +148,13 @@ void Mesa::MostrarAdornos() {
     adornos_.Mostrar(cajas);
 }
 
+/// In design mode a panel may frame what stands on it, but nobody tells it that this has changed.
+void Mesa::MarcarPaneles() const {
+    for (const auto& control : forma_.Controles())
+        if (EsPanel(control))
+            control->AmbienteCambiado(DISPID_AMBIENT_USERMODE);
+}
+
 Caja Mesa::CajaDe(const Control& control) const {
     RECT r = control->Rectangulo();
     MapWindowPoints(control->VentanaPadre(), forma_.Ventana(), reinterpret_cast<POINT*>(&r), 2);
@@ -171,6 +178,7 @@ void Mesa::PonerCaja(const Control& control, const Caja& caja) {
 
 void Mesa::Recordar(const std::string& seguido) {
     historia_.Anotar(Retratar(forma_, examinador_), seguido);
+    MarcarPaneles();
     MostrarAdornos();
     if (alCambiar)
         alCambiar();
@@ -183,6 +191,7 @@ void Mesa::Volver(const Foto& foto) {
     } catch (const FalloCom& fallo) {
         Avisar(L"No se pudo volver atrás: " + Explicar(fallo) + L".");
     }
+    MarcarPaneles();
     MostrarAdornos();
 }
 
@@ -222,6 +231,7 @@ bool Mesa::PonerTexto(const std::wstring& texto) {
         return false;
     }
     historia_.Empezar(Retratar(forma_, examinador_));
+    MarcarPaneles();
     Avisar(L"");
     if (alCambiar)
         alCambiar();
@@ -275,6 +285,7 @@ void Mesa::Hacer(Orden orden) {
     if (!Puede(orden))
         return;
     Abandonar();
+    Avisar(L"");
     switch (orden) {
     case Orden::Deshacer:
         return Volver(historia_.Deshacer());

@@ -101,6 +101,7 @@ class Mesa {
     diseno::Caja Interior(const Control& panel, const diseno::Caja& caja) const;
     void PonerCaja(const Control& control, const diseno::Caja& caja);
     void MostrarAdornos();
+    void MarcarPaneles() const;
 
     // mesa_raton.cpp
     bool Tocar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado);

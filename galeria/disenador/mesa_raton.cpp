@@ -39,6 +39,7 @@ bool Mesa::Tocar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado) {
     const Punto punto{GET_X_LPARAM(l), GET_Y_LPARAM(l)};
     switch (mensaje) {
     case WM_LBUTTONDOWN:
+        Avisar(L""); // before a field that loses the focus tells that it was refused
         SetFocus(forma_.Ventana());
         Apretar(punto, w & (MK_CONTROL | MK_SHIFT));
         return true;

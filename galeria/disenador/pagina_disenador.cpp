@@ -282,10 +282,8 @@ void PaginaDisenador::Actualizar() {
         return;
     ordenes_.Rotular(ejecutar_, disena ? L"Ejecutar" : L"Diseñar");
     ordenes_.Marcar(ejecutar_, !disena);
-    if (disena == !IsWindowVisible(lista_->Ventana()) || disena) {
-        ShowWindow(lista_->Ventana(), disena ? SW_SHOWNA : SW_HIDE);
-        ShowWindow(diario_.Ventana(), disena ? SW_HIDE : SW_SHOWNA);
-    }
+    ShowWindow(lista_->Ventana(), disena ? SW_SHOWNA : SW_HIDE);
+    ShowWindow(diario_.Ventana(), disena ? SW_HIDE : SW_SHOWNA);
     ActualizarObjetos();
     lista_->Leer();
     if (!aviso_)
@@ -303,8 +301,9 @@ void PaginaDisenador::Actualizar() {
     }
     SetWindowTextW(medida_, medida.c_str());
     mirador_.Ajustar();
-    const RECT ayuda = Escalar(LugarAyuda);
-    InvalidateRect(marco_.Ventana(), &ayuda, FALSE);
+    const RECT columna = Escalar({LugarObjetos.left - 2, LugarObjetos.bottom, LugarObjetos.right + 2,
+                                  LugarEstado.top});
+    InvalidateRect(marco_.Ventana(), &columna, FALSE);
 }
 
 /// The list of the form's controls, with the one that leads.

@@ -43,7 +43,6 @@ class PaginaDisenador final : public Pagina {
   private:
     void PonerOrdenes();
     void PonerHerramientas();
-    void Colocar() const;
     void Pintar(HDC hdc) const;
     void PintarAyuda(HDC hdc) const;
     bool Tratar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado);
@@ -53,7 +52,6 @@ class PaginaDisenador final : public Pagina {
     void Actualizar();
     void ActualizarObjetos();
     void Avisar(const std::wstring& texto);
-    void AlternarEjecucion();
     void Herramienta(const std::wstring& clase);
     HWND OrdenDe(Orden orden, const wchar_t* texto, int ancho);
 

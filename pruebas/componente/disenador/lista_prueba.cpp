@@ -106,7 +106,7 @@ TEST_CASE("A value that is refused is told in Spanish, and nothing is lost") {
         CHECK(b.Texto() == antes);
     }
     CHECK_FALSE(b.mesa->Puede(Orden::Deshacer));
-    CHECK(b.Escribir(L"Caption", L"Bien"));
+    b.Clic(20, 20);
     CHECK(b.pagina->Estado().find(L"nombre") == std::wstring::npos);
 }
 
