@@ -229,14 +229,25 @@ Puntero<SumideroEventos> ControlAlojado::Conectar(SumideroEventos::Manejador man
     return sumidero;
 }
 
+void ControlAlojado::Desconectar(const Puntero<SumideroEventos>& sumidero) {
+    const auto sostenido = sumidero;
+    sostenido->Desconectar();
+    std::erase(sumideros_, sostenido);
+}
+
 void ControlAlojado::AmbienteCambiado(DISPID numero) {
     if (const auto control = Como<IOleControl>())
         control->OnAmbientPropertyChange(numero);
 }
 
 void ControlAlojado::Dibujar(HDC hdc) const {
+    if (!enSitio_ && visible_)
+        Retratar(hdc);
+}
+
+void ControlAlojado::Retratar(HDC hdc) const {
     const auto vista = Como<IViewObject>();
-    if (!vista || enSitio_ || !visible_)
+    if (!vista)
         return;
     const RECTL rectangulo{rectangulo_.left, rectangulo_.top, rectangulo_.right,
                            rectangulo_.bottom};

@@ -94,6 +94,8 @@ class ControlAlojado : public std::enable_shared_from_this<ControlAlojado> {
 
     /// Connects to the default events; several handlers may be connected.
     Puntero<SumideroEventos> Conectar(SumideroEventos::Manejador manejador);
+    /// That handler hears nothing any more.
+    void Desconectar(const Puntero<SumideroEventos>& sumidero);
     /// Notices of changed properties.
     Avisos& Notificaciones() { return *avisos_.get(); }
 
@@ -101,6 +103,8 @@ class ControlAlojado : public std::enable_shared_from_this<ControlAlojado> {
     void AmbienteCambiado(DISPID numero);
     /// Draws a control that is not in-place active.
     void Dibujar(HDC hdc) const;
+    /// Draws the control at its place, active or not.
+    void Retratar(HDC hdc) const;
 
     /// Orderly end; answers the count left by the last release (0 when nobody else holds the
     /// control). Harmless the second time.

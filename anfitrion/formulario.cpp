@@ -100,6 +100,32 @@ std::shared_ptr<ControlAlojado> Formulario::Control(const std::wstring& nombre) 
     return nullptr;
 }
 
+std::wstring Formulario::NombreLibre(const std::wstring& nombre) const {
+    if (!Control(nombre))
+        return nombre;
+    const std::wstring raiz = nombre.substr(0, nombre.find_last_not_of(L"0123456789") + 1);
+    int numero = 1;
+    while (Control(raiz + std::to_wstring(numero)))
+        ++numero;
+    return raiz + std::to_wstring(numero);
+}
+
+void Formulario::Ordenar(const std::vector<std::shared_ptr<ControlAlojado>>& controles) {
+    std::erase_if(controles_, [&](const auto& uno) {
+        return std::find(controles.begin(), controles.end(), uno) != controles.end();
+    });
+    controles_.insert(controles_.end(), controles.begin(), controles.end());
+    siguienteOrden_ = 0;
+    for (const auto& control : controles_) {
+        control->orden = siguienteOrden_++;
+        if (const HWND ventana = control->Ventana())
+            SetWindowPos(ventana, HWND_TOP, 0, 0, 0, 0,
+                         SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+    if (capa_)
+        PonerCapa();
+}
+
 void Formulario::UIActivado(ControlAlojado& control) {
     if (activo_.get() == &control)
         return;
@@ -161,28 +187,29 @@ void Formulario::PonerModoUsuario(bool usuario) {
 }
 
 void Formulario::Seleccionar(const std::shared_ptr<ControlAlojado>& control, bool anadir) {
-    if (!anadir)
-        seleccion_.clear();
-    if (const auto ya = std::find(seleccion_.begin(), seleccion_.end(), control);
-        ya != seleccion_.end())
-        seleccion_.erase(ya);
+    auto elegidos = anadir ? seleccion_ : std::vector<std::shared_ptr<ControlAlojado>>();
+    if (const auto ya = std::find(elegidos.begin(), elegidos.end(), control); ya != elegidos.end())
+        elegidos.erase(ya);
     else if (control)
-        seleccion_.push_back(control);
-    // The handles of what stands on a panel are drawn there.
-    RedrawWindow(ventana_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        elegidos.push_back(control);
+    Seleccionar(std::move(elegidos));
+}
+
+void Formulario::Seleccionar(std::vector<std::shared_ptr<ControlAlojado>> controles) {
+    seleccion_ = std::move(controles);
     if (const auto manejador = alSeleccionar)
         manejador();
 }
 
-void Formulario::ElegirEn(POINT punto, bool anadir) {
+std::shared_ptr<ControlAlojado> Formulario::ControlEn(POINT punto) const {
     // The last one created lies on top.
     for (auto i = controles_.rbegin(); i != controles_.rend(); ++i) {
         RECT r = (*i)->Rectangulo();
         MapWindowPoints((*i)->VentanaPadre(), ventana_, reinterpret_cast<POINT*>(&r), 2);
         if ((*i)->Visible() && PtInRect(&r, punto))
-            return Seleccionar(std::shared_ptr(*i), anadir);
+            return *i;
     }
-    Seleccionar(nullptr, anadir);
+    return nullptr;
 }
 
 } // namespace anfitrion

@@ -37,6 +37,12 @@ class Formulario {
     ~Formulario();
 
     HWND Ventana() const { return ventana_; }
+    /// Client area, in pixels.
+    SIZE Medida() const;
+    void PonerMedida(const SIZE& medida);
+    /// Draws every visible control, active or not, and what stands on it; the background is the
+    /// caller's.
+    void Dibujar(HDC hdc) const;
 
     // Controls
 
@@ -59,6 +65,11 @@ class Formulario {
     /// Those that stand on a control, in the order they were added; on the form itself for null.
     std::vector<std::shared_ptr<ControlAlojado>> ControlesEn(const ControlAlojado* dentro) const;
     std::shared_ptr<ControlAlojado> Control(const std::wstring& nombre) const;
+    /// The name itself, or with another number when it is taken.
+    std::wstring NombreLibre(const std::wstring& nombre) const;
+    /// Order in which they overlap, the last one on top, and in which TAB goes through them. Those
+    /// that aren't told stay where they are, before them.
+    void Ordenar(const std::vector<std::shared_ptr<ControlAlojado>>& controles);
     /// A window of the application's own takes part in the tab order.
     void AgregarVentana(HWND ventana, long orden);
 
@@ -86,11 +97,17 @@ class Formulario {
 
     // Design and run mode
 
+    /// The window over the controls that takes the mouse in design mode; null in run mode.
+    HWND Capa() const { return capa_; }
     bool ModoUsuario() const { return ambiente_.modoUsuario; }
     /// Announces the change to every control; in design mode a click selects.
     void PonerModoUsuario(bool usuario);
     const std::vector<std::shared_ptr<ControlAlojado>>& Seleccion() const { return seleccion_; }
     void Seleccionar(const std::shared_ptr<ControlAlojado>& control, bool anadir);
+    /// The first one is the one that leads.
+    void Seleccionar(std::vector<std::shared_ptr<ControlAlojado>> controles);
+    /// The uppermost visible control at a point of the form; null when there is none.
+    std::shared_ptr<ControlAlojado> ControlEn(POINT punto) const;
 
     // Surroundings
 
@@ -104,6 +121,10 @@ class Formulario {
     std::function<void(int, HWND)> alOrdenar; ///< WM_COMMAND of own windows: code, window
     std::function<bool(UINT, WPARAM, LPARAM, LRESULT&)> alRecibir; ///< any message; true: done
     std::function<bool(ControlAlojado&)> alPedirPropiedades;
+    /// A key, before anybody else; true: done.
+    std::function<bool(const MSG&)> alTeclear;
+    /// In design mode, a message of the layer over the controls, before the form selects; true: done.
+    std::function<bool(UINT, WPARAM, LPARAM, LRESULT&)> alDisenar;
     /// A message of a window that holds controls, before that control handles it; true: done.
     std::function<bool(ControlAlojado&, UINT, WPARAM, LPARAM, LRESULT&)> alFiltrar;
 
@@ -139,6 +160,8 @@ class Formulario {
     LRESULT Tratar(UINT mensaje, WPARAM w, LPARAM l);
     void Pintar(HDC hdc, const RECT& sucio);
     void PintarControles(HDC hdc, const ControlAlojado* dentro) const;
+    void DibujarControles(HDC hdc, const ControlAlojado* dentro) const;
+    LRESULT TratarCapa(HWND capa, UINT mensaje, WPARAM w, LPARAM l);
     void AlActivarVentana(bool activa);
     std::vector<Parada> Paradas() const;
     std::size_t ParadaActual(const std::vector<Parada>& paradas) const;
@@ -149,7 +172,6 @@ class Formulario {
     bool Escapar(const MSG& mensaje);
     bool Flecha(const MSG& mensaje);
     bool Pulsar(bool ControlAlojado::*papel, const MSG& mensaje);
-    void ElegirEn(POINT punto, bool anadir);
     void PonerCapa();
 
     HWND ventana_ = nullptr;

@@ -28,7 +28,14 @@ Puntero<IOleInPlaceActiveObject> Formulario::ObjetoActivo() const {
 }
 
 bool Formulario::Pretraducir(const MSG& mensaje) {
-    if (!EsTecla(mensaje) || !ModoUsuario())
+    if (!EsTecla(mensaje))
+        return false;
+    if (const auto manejador = alTeclear) {
+        const auto vivo = vivo_;
+        if (manejador(mensaje) || !*vivo)
+            return true;
+    }
+    if (!ModoUsuario())
         return false;
     MSG copia = mensaje;
     if (const auto objeto = ObjetoActivo()) {

@@ -148,24 +148,42 @@ void Formulario::Filtrado(ControlAlojado& control, HWND ventana, UINT mensaje) {
     ReleaseDC(ventana, hdc);
 }
 
-/// Inactive controls and, in design mode, the handles of the selected ones.
+/// Controls that are not active in place.
 void Formulario::PintarControles(HDC hdc, const ControlAlojado* dentro) const {
-    constexpr int Agarre = 6;
     for (const auto& control : ControlesEn(dentro))
         control->Dibujar(hdc);
-    for (const auto& control : seleccion_) {
-        if (control->Dentro().get() != dentro)
+}
+
+void Formulario::Dibujar(HDC hdc) const {
+    DibujarControles(hdc, nullptr);
+}
+
+void Formulario::DibujarControles(HDC hdc, const ControlAlojado* dentro) const {
+    for (const auto& control : ControlesEn(dentro)) {
+        if (!control->Visible())
             continue;
+        control->Retratar(hdc);
         const RECT& r = control->Rectangulo();
-        const LONG xs[] = {r.left - Agarre, (r.left + r.right - Agarre) / 2, r.right};
-        const LONG ys[] = {r.top - Agarre, (r.top + r.bottom - Agarre) / 2, r.bottom};
-        for (const LONG x : xs)
-            for (const LONG y : ys)
-                if (x != xs[1] || y != ys[1]) {
-                    const RECT agarre{x, y, x + Agarre, y + Agarre};
-                    FillRect(hdc, &agarre, GetSysColorBrush(COLOR_HIGHLIGHT));
-                }
+        const int estado = SaveDC(hdc);
+        IntersectClipRect(hdc, r.left, r.top, r.right, r.bottom);
+        OffsetViewportOrgEx(hdc, r.left, r.top, nullptr);
+        DibujarControles(hdc, control.get());
+        RestoreDC(hdc, estado);
     }
+}
+
+SIZE Formulario::Medida() const {
+    RECT r{};
+    GetClientRect(ventana_, &r);
+    return {r.right, r.bottom};
+}
+
+void Formulario::PonerMedida(const SIZE& medida) {
+    RECT r{0, 0, medida.cx, medida.cy};
+    AdjustWindowRectEx(&r, static_cast<DWORD>(GetWindowLongW(ventana_, GWL_STYLE)), FALSE,
+                       static_cast<DWORD>(GetWindowLongW(ventana_, GWL_EXSTYLE)));
+    SetWindowPos(ventana_, nullptr, 0, 0, Ancho(r), Alto(r),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void Formulario::PonerCapa() {
@@ -187,19 +205,28 @@ void Formulario::PonerCapa() {
 
 LRESULT CALLBACK Formulario::ProcesarCapa(HWND ventana, UINT mensaje, WPARAM w, LPARAM l) {
     auto* forma = reinterpret_cast<Formulario*>(GetWindowLongPtrW(ventana, GWLP_USERDATA));
+    return forma ? forma->TratarCapa(ventana, mensaje, w, l)
+                 : DefWindowProcW(ventana, mensaje, w, l);
+}
+
+LRESULT Formulario::TratarCapa(HWND capa, UINT mensaje, WPARAM w, LPARAM l) {
+    if (const auto manejador = alDisenar) {
+        LRESULT resultado = 0;
+        if (manejador(mensaje, w, l, resultado))
+            return resultado;
+    }
     switch (mensaje) {
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
-        ValidateRect(ventana, nullptr);
+        ValidateRect(capa, nullptr);
         return 0;
     case WM_LBUTTONDOWN:
-        if (forma)
-            forma->ElegirEn({static_cast<short>(LOWORD(l)), static_cast<short>(HIWORD(l))},
-                            w & (MK_CONTROL | MK_SHIFT));
+        Seleccionar(ControlEn({static_cast<short>(LOWORD(l)), static_cast<short>(HIWORD(l))}),
+                    w & (MK_CONTROL | MK_SHIFT));
         return 0;
     default:
-        return DefWindowProcW(ventana, mensaje, w, l);
+        return DefWindowProcW(capa, mensaje, w, l);
     }
 }
 

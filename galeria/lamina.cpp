@@ -1,6 +1,6 @@
 #include "galeria/lamina.h"
 
-#include "galeria/escala.h"
+#include "galeria/trazos.h"
 
 #include <cmath>
 
@@ -10,13 +10,7 @@ namespace {
 
 constexpr COLORREF ColorTitular = RGB(17, 24, 39);
 constexpr COLORREF ColorTitulo = RGB(55, 65, 81);
-constexpr COLORREF ColorNota = RGB(95, 107, 124);
 constexpr COLORREF ColorLinea = RGB(222, 227, 235);
-
-void Llenar(HDC hdc, const RECT& r, COLORREF color) {
-    SetDCBrushColor(hdc, color);
-    FillRect(hdc, &r, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-}
 
 void Escribir(HDC hdc, const wchar_t* texto, RECT r, const FuenteGdi& fuente, COLORREF color,
               UINT formato) {
@@ -67,7 +61,7 @@ void Lamina::PintarTarjeta(HDC hdc, const RECT& lugar, const wchar_t* titulo) co
 }
 
 void Lamina::PintarNota(HDC hdc, const RECT& lugar, const wchar_t* texto) const {
-    Escribir(hdc, texto, Escalar(lugar), texto_, ColorNota, DT_LEFT);
+    Escribir(hdc, texto, Escalar(lugar), texto_, ColorLetraFloja, DT_LEFT);
 }
 
 void Lamina::PintarCabeceras(HDC hdc, const Grupo& grupo) const {
@@ -75,21 +69,21 @@ void Lamina::PintarCabeceras(HDC hdc, const Grupo& grupo) const {
         RECT r = Escalar(LugarDeMuestra(grupo, i));
         r.bottom = r.top - Escala(1);
         r.top -= Escala(AltoCabecera);
-        Escribir(hdc, grupo.cabeceras[i], r, texto_, ColorNota, DT_CENTER);
+        Escribir(hdc, grupo.cabeceras[i], r, texto_, ColorLetraFloja, DT_CENTER);
     }
 }
 
 void Lamina::Pintar(HDC hdc, const RECT& cliente) const {
     Llenar(hdc, cliente, ColorLamina);
     Escribir(hdc, hoja_.titular, Escalar({24, 10, 500, 42}), titular_, ColorTitular, DT_LEFT);
-    Escribir(hdc, hoja_.subtitulo, Escalar({24, 44, 500, 64}), texto_, ColorNota, DT_LEFT);
+    Escribir(hdc, hoja_.subtitulo, Escalar({24, 44, 500, 64}), texto_, ColorLetraFloja, DT_LEFT);
     for (const Grupo& grupo : hoja_.grupos) {
         PintarTarjeta(hdc, {grupo.x, grupo.y, grupo.x + grupo.ancho, grupo.y + grupo.alto},
                       grupo.titulo);
         PintarCabeceras(hdc, grupo);
     }
     PintarTarjeta(hdc, TarjetaEventos, L"Eventos");
-    Escribir(hdc, hoja_.pie, Escalar({24, 668, 956, 696}), texto_, ColorNota, DT_LEFT);
+    Escribir(hdc, hoja_.pie, Escalar({24, 668, 956, 696}), texto_, ColorLetraFloja, DT_LEFT);
 }
 
 } // namespace galeria

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "galeria/muestras.h"
+#include "galeria/trazos.h"
 
 #include <windows.h>
 
@@ -19,9 +20,6 @@ constexpr int Margen = 14;
 constexpr int AltoTitulo = 26;
 constexpr int AltoCabecera = 18;
 constexpr int Hueco = 8;
-
-constexpr COLORREF ColorLamina = RGB(243, 245, 249);
-constexpr COLORREF ColorTarjeta = RGB(255, 255, 255);
 
 /// Place of the n-th control of a group, at 96 dpi.
 RECT LugarDeMuestra(const Grupo& grupo, int n);

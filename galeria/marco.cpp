@@ -28,21 +28,30 @@ Marco::Marco()
       pestanas_(CreateWindowExW(0, WC_TABCONTROLW, L"", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, 0,
                                 0, Escala(AnchoPagina), 0, forma_.Ventana(), nullptr, nullptr,
                                 nullptr)),
-      fuente_(CrearFuenteGdi(9, FW_NORMAL).release(), &DeleteObject),
-      diseno_(forma_.Ventana(), static_cast<HFONT>(fuente_.get()),
-              [this]() -> Pagina& { return Visible(); }) {
-    SendMessageW(pestanas_, WM_SETFONT, reinterpret_cast<WPARAM>(fuente_.get()), TRUE);
-    forma_.alOrdenar = [this](int, HWND ventana) { diseno_.Orden(ventana); };
-    forma_.alRecibir = [this](UINT mensaje, WPARAM, LPARAM l, LRESULT&) {
-        if (mensaje == WM_NOTIFY && reinterpret_cast<const NMHDR*>(l)->code == TCN_SELCHANGE) {
-            Mostrar(static_cast<std::size_t>(SendMessageW(pestanas_, TCM_GETCURSEL, 0, 0)));
-            return true;
-        }
-        if (mensaje != WM_SETFOCUS || paginas_.empty())
-            return false;
-        SetFocus(Visible().Forma().Ventana());
-        return true;
+      disenar_(CreateWindowExW(0, L"BUTTON", L"Llevar al diseñador",
+                               WS_CHILD | WS_CLIPSIBLINGS | BS_PUSHBUTTON, 0, 0, 0, 0,
+                               forma_.Ventana(), nullptr, nullptr, nullptr)),
+      fuente_(CrearFuenteGdi(9, FW_NORMAL).release(), &DeleteObject) {
+    for (const HWND ventana : {pestanas_, disenar_})
+        SendMessageW(ventana, WM_SETFONT, reinterpret_cast<WPARAM>(fuente_.get()), TRUE);
+    forma_.alOrdenar = [this](int, HWND ventana) {
+        if (ventana == disenar_ && alDisenar)
+            alDisenar(Visible().ParaDisenar());
     };
+    forma_.alRecibir = [this](UINT mensaje, WPARAM, LPARAM l, LRESULT&) {
+        return Recibir(mensaje, l);
+    };
+}
+
+bool Marco::Recibir(UINT mensaje, LPARAM l) {
+    if (mensaje == WM_NOTIFY && reinterpret_cast<const NMHDR*>(l)->code == TCN_SELCHANGE) {
+        Mostrar(static_cast<std::size_t>(SendMessageW(pestanas_, TCM_GETCURSEL, 0, 0)));
+        return true;
+    }
+    if (mensaje != WM_SETFOCUS || paginas_.empty())
+        return false;
+    SetFocus(Visible().Forma().Ventana());
+    return true;
 }
 
 void Marco::Agregar(const wchar_t* titulo, std::unique_ptr<Pagina> pagina) {
@@ -55,7 +64,8 @@ void Marco::Agregar(const wchar_t* titulo, std::unique_ptr<Pagina> pagina) {
     SendMessageW(pestanas_, TCM_GETITEMRECT, paginas_.size(), reinterpret_cast<LPARAM>(&lugar));
     const int alto = static_cast<int>(lugar.bottom);
     SetWindowPos(pestanas_, nullptr, 0, 0, Escala(AnchoPagina), alto, SWP_NOMOVE | SWP_NOZORDER);
-    diseno_.Colocar(Escala(AnchoPagina), alto);
+    SetWindowPos(disenar_, HWND_TOP, Escala(AnchoPagina - 154), 0, Escala(150), alto,
+                 SWP_NOACTIVATE);
     SetWindowPos(pagina->Forma().Ventana(), nullptr, 0, alto, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     RECT marco{0, 0, Escala(AnchoPagina), alto + Escala(AltoPagina)};
@@ -78,7 +88,7 @@ void Marco::Mostrar(std::size_t cual) {
     UpdateWindow(forma_.Ventana());
     forma_.BombearMensajes();
     Visible().Abrir();
-    diseno_.Mostrar(Visible());
+    ShowWindow(disenar_, Visible().ParaDisenar().empty() ? SW_HIDE : SW_SHOWNA);
     SetFocus(Visible().Forma().Ventana());
 }
 

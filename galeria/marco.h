@@ -1,9 +1,9 @@
 // The gallery's window: one tab for each page.
 #pragma once
 
-#include "galeria/diseno.h"
 #include "galeria/pagina.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -20,11 +20,16 @@ class Marco {
     void Ejecutar() { forma_.Ejecutar(); }
     Pagina& Visible() { return *paginas_[visible_]; }
 
+    /// The user wants the form of a page in the designer.
+    std::function<void(const std::wstring&)> alDisenar;
+
   private:
+    bool Recibir(UINT mensaje, LPARAM l);
+
     anfitrion::Formulario forma_;
     HWND pestanas_;
+    HWND disenar_; ///< the button at the right end of the tabs
     std::unique_ptr<void, decltype(&DeleteObject)> fuente_;
-    Diseno diseno_;
     std::vector<std::unique_ptr<Pagina>> paginas_;
     std::size_t visible_ = 0;
 };

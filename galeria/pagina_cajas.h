@@ -1,16 +1,16 @@
 // Page of the gallery: text boxes, and a form that one fills with Enter alone.
 #pragma once
 
-#include "galeria/pagina.h"
+#include "galeria/pagina_muestras.h"
 
 #include <vector>
 
 namespace galeria {
 
-class PaginaCajas final : public Pagina {
+class PaginaCajas final : public PaginaMuestras {
   public:
     PaginaCajas(const std::optional<anfitrion::Componente>& componente, HWND padre)
-        : Pagina(HojaDeCajas, componente, padre) {}
+        : PaginaMuestras(HojaDeCajas, componente, padre) {}
 
     /// Fills the first fields of the form and leaves the focus in the next one.
     void Ensayar() override;

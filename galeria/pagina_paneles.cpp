@@ -40,7 +40,7 @@ RECT LugarDelGrupo() {
 } // namespace
 
 PaginaPaneles::PaginaPaneles(const std::optional<Componente>& componente, HWND padre)
-    : Pagina(HojaDePaneles, componente, padre) {
+    : PaginaMuestras(HojaDePaneles, componente, padre) {
     const RECT grupo = Escalar(LugarDelGrupo());
     // Transparent, so that the card is painted inside its line too.
     const HWND cuadro = CreateWindowExW(

@@ -1,11 +1,11 @@
 // Page of the gallery: panels, and one with controls standing on it.
 #pragma once
 
-#include "galeria/pagina.h"
+#include "galeria/pagina_muestras.h"
 
 namespace galeria {
 
-class PaginaPaneles final : public Pagina {
+class PaginaPaneles final : public PaginaMuestras {
   public:
     PaginaPaneles(const std::optional<anfitrion::Componente>& componente, HWND padre);
 

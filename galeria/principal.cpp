@@ -1,6 +1,7 @@
 // Entry point of the gallery.
 //   galeria [--ocx FILE] [--pagina NAME] [--captura FILE.png] [--vacia]
 #include "anfitrion/captura.h"
+#include "galeria/disenador/pagina_disenador.h"
 #include "galeria/marco.h"
 #include "galeria/pagina_botones.h"
 #include "galeria/pagina_cajas.h"
@@ -39,12 +40,13 @@ constexpr struct {
     {L"botones", L"Botones", &HacerPagina<galeria::PaginaBotones>},
     {L"cajas", L"Cajas de texto", &HacerPagina<galeria::PaginaCajas>},
     {L"paneles", L"Paneles", &HacerPagina<galeria::PaginaPaneles>},
+    {L"disenador", L"Diseñador", &HacerPagina<galeria::PaginaDisenador>},
 };
 
 constexpr wchar_t Uso[] = L"galeria [--ocx FICHERO] [--pagina NOMBRE] [--captura FICHERO.png] "
                           L"[--vacia]\n"
                           L"  --ocx      usa ese componente en vez del registrado\n"
-                          L"  --pagina   empieza por esa página: botones, cajas, paneles\n"
+                          L"  --pagina   empieza por esa página: botones, cajas, paneles, disenador\n"
                           L"  --captura  escribe en PNG las páginas, o la que se pide, y termina\n"
                           L"  --vacia    muestra la lámina sin controles\n";
 
@@ -120,6 +122,10 @@ int Mostrar(const Ordenes& ordenes) {
     for (std::size_t i = 0; i < std::size(Paginas); ++i)
         if (ordenes.pagina == Paginas[i].nombre)
             primera = i;
+    marco.alDisenar = [&](const std::wstring& texto) {
+        marco.Mostrar(std::size(Paginas) - 1);
+        static_cast<galeria::PaginaDisenador&>(marco.Visible()).Recibir(texto);
+    };
     marco.Mostrar(primera);
     if (ordenes.captura.empty()) {
         marco.Ejecutar();

@@ -1,57 +1,29 @@
 // ejemplo FORM [--guardar FILE]: shows a form kept as text; with --guardar, writes it again and
 // ends. The title tells which button was pressed last.
-#include "ejemplos/cpp/formulario_texto.h"
+#include "anfitrion/fichero_texto.h"
+#include "anfitrion/formulario_texto.h"
 
 #include <shellapi.h>
 
 #include <cstdio>
+#include <stdexcept>
 #include <vector>
 
 namespace {
 
 using namespace anfitrion;
 
-std::wstring Ensanchar(const std::string& bytes) {
-    const int largo = static_cast<int>(bytes.size());
-    std::wstring texto(bytes.size(), L'\0');
-    texto.resize(static_cast<std::size_t>(
-        MultiByteToWideChar(CP_UTF8, 0, bytes.data(), largo, texto.data(), largo)));
-    return texto;
-}
-
-std::wstring LeerUtf8(const std::wstring& ruta) {
-    std::string bytes;
-    FILE* f = _wfopen(ruta.c_str(), L"rb");
-    if (!f)
-        throw ejemplo::TextoErroneo("no se puede abrir " + Estrechar(ruta));
-    char trozo[4096];
-    while (const std::size_t n = fread(trozo, 1, sizeof trozo, f))
-        bytes.append(trozo, n);
-    fclose(f);
-    return Ensanchar(bytes);
-}
-
-void EscribirUtf8(const std::wstring& ruta, const std::wstring& texto) {
-    const std::string bytes = Estrechar(texto);
-    FILE* f = _wfopen(ruta.c_str(), L"wb");
-    const bool bien = f && fwrite(bytes.data(), 1, bytes.size(), f) == bytes.size();
-    if (!f || fclose(f) != 0 || !bien)
-        throw ejemplo::TextoErroneo("no se puede escribir " + Estrechar(ruta));
-}
-
 int Correr(const std::vector<std::wstring>& argumentos) {
     const bool guardar = argumentos.size() == 3 && argumentos[1] == L"--guardar";
     if (argumentos.size() != 1 && !guardar)
-        throw ejemplo::TextoErroneo("uso: ejemplo FORMULARIO [--guardar ARCHIVO]");
+        throw std::runtime_error("uso: ejemplo FORMULARIO [--guardar ARCHIVO]");
     OpcionesFormulario opciones;
     opciones.titulo = L"Ejemplo de Pincela";
-    opciones.ancho = 360;
-    opciones.alto = 120;
     opciones.visible = false;
     Formulario forma(opciones);
-    ejemplo::Cargar(forma, Componente::DeRegistro(), LeerUtf8(argumentos[0]));
+    LeerFormulario(forma, Componente::DeRegistro(), LeerTexto(argumentos[0]));
     if (guardar) {
-        EscribirUtf8(argumentos[2], ejemplo::Guardar(forma));
+        EscribirTexto(argumentos[2], EscribirFormulario(forma));
         return 0;
     }
     for (const auto& control : forma.Controles())

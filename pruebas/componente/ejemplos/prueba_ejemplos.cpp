@@ -94,15 +94,14 @@ TEST_CASE("The application loads its form and saves the same, with nothing regis
     CHECK(primera.codigo == 0);
     const std::string guardado = Leer(copia);
     // What equals its default is left out.
-    CHECK(guardado == "Begin Pincela.Botonazo Aceptar\n"
-                      "   Left = 20\n   Top = 20\n   Width = 140\n   Height = 40\n"
-                      "   RelY = 1\n   EstilosRell = 2\n   Caption = \"&Aceptar\"\n"
-                      "   ColorDegradeN = \"16777215*13224393\"\n"
-                      "   ColorDegradeS = \"16777215*16763904\"\nEnd\n"
-                      "Begin Pincela.Botonazo Cancelar\n"
-                      "   Left = 180\n   Top = 20\n   Width = 140\n   Height = 40\n"
-                      "   FocoVisible = False\n   Caption = \"&Cancelar \"\"todo\"\"\"\n"
-                      "   ColorLetra = 192\nEnd\n");
+    CHECK(guardado == "Formulario 340 80 96\n"
+                      "Pincela.Botonazo Aceptar 20 20 140 40\n"
+                      "  RelY = 1!\n  EstilosRell = 2\n  Caption = \"&Aceptar\"\n"
+                      "  ColorDegradeN = \"16777215*13224393\"\n"
+                      "  ColorDegradeS = \"16777215*16763904\"\nFin\n"
+                      "Pincela.Botonazo Cancelar 180 20 140 40\n"
+                      "  FocoVisible = False\n  Caption = \"&Cancelar \\\"todo\\\"\"\n"
+                      "  ColorLetra = 192\nFin\n");
     const std::wstring otra = Construccion() + L"formulario_otra_vez.txt";
     CHECK(Correr(programa + L" " + Citada(copia) + L" --guardar " + Citada(otra)).codigo == 0);
     CHECK(Leer(otra) == guardado);

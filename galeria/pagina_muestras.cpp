@@ -1,4 +1,4 @@
-#include "galeria/pagina.h"
+#include "galeria/pagina_muestras.h"
 
 #include "anfitrion/imagenes.h"
 #include "galeria/escala.h"
@@ -46,7 +46,8 @@ OpcionesFormulario Opciones(HWND padre) {
 
 } // namespace
 
-Pagina::Pagina(const Hoja& hoja, const std::optional<Componente>& componente, HWND padre)
+PaginaMuestras::PaginaMuestras(const Hoja& hoja, const std::optional<Componente>& componente,
+                               HWND padre)
     : hoja_(hoja), componente_(componente), lamina_(hoja), forma_(Opciones(padre)),
       diario_(forma_.Ventana(), Escalar(LugarDiario), lamina_.Texto()) {
     forma_.alPintar = [this](HDC hdc, const RECT& sucio) {
@@ -55,7 +56,7 @@ Pagina::Pagina(const Hoja& hoja, const std::optional<Componente>& componente, HW
     };
 }
 
-void Pagina::Armar() {
+void PaginaMuestras::Armar() {
     if (componente_) {
         for (const Grupo& grupo : hoja_.grupos)
             for (std::size_t n = 0; n < grupo.muestras.size(); ++n)
@@ -67,7 +68,7 @@ void Pagina::Armar() {
     forma_.AgregarVentana(diario_.Ventana(), static_cast<long>(forma_.Controles().size()));
 }
 
-Pagina::Control Pagina::PonerControl(const wchar_t* clase, const std::wstring& nombre,
+PaginaMuestras::Control PaginaMuestras::PonerControl(const wchar_t* clase, const std::wstring& nombre,
                                      const RECT& lugar, std::span<const Par> comunes,
                                      std::span<const Par> propios, ControlAlojado* dentro) {
     const RECT pixeles = Escalar(lugar);
@@ -84,7 +85,7 @@ Pagina::Control Pagina::PonerControl(const wchar_t* clase, const std::wstring& n
     return control;
 }
 
-void Pagina::Poner(const Grupo& grupo, int n) {
+void PaginaMuestras::Poner(const Grupo& grupo, int n) {
     const Muestra& muestra = grupo.muestras[static_cast<std::size_t>(n)];
     if (EsHueco(muestra))
         return;
@@ -97,7 +98,7 @@ void Pagina::Poner(const Grupo& grupo, int n) {
                  LugarDeMuestra(grupo, n), comunes, muestra.pares);
 }
 
-void Pagina::PonerLimpiar() {
+void PaginaMuestras::PonerLimpiar() {
     static constexpr std::array<Par, 6> pares{{
         {L"Caption", L"&Limpiar"},
         {L"EstilosRell", 2},
