@@ -45,8 +45,9 @@ fuzz: setup-base
 	@$H/instalar difuso
 	@$H/difundir
 
-bench: ocx
-	@$H/construir win64 all
+bench: setup ocx
+	@$H/construir win64 medidas
+	@$H/construir win32 medidas
 	@$H/medir
 
 dist: ocx

@@ -1,4 +1,5 @@
 // Efectos.Degrade through its dual interface against the bare fill with the same mesh.
+#include "medidas/hoja.h"
 #include "medidas/medida.h"
 
 #include "anfitrion/tardio.h"
@@ -80,30 +81,6 @@ Malla MallaDe(LONG estilo, LONG ancho, LONG alto, const std::vector<LONG>& color
     return m;
 }
 
-class Hoja {
-  public:
-    Hoja(LONG ancho, LONG alto) : dc_(CreateCompatibleDC(nullptr)) {
-        BITMAPINFO info{};
-        info.bmiHeader = {sizeof info.bmiHeader, ancho, -alto, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        void* bits = nullptr;
-        mapa_ = CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-        anterior_ = SelectObject(dc_, mapa_);
-    }
-    Hoja(const Hoja&) = delete;
-    Hoja& operator=(const Hoja&) = delete;
-    ~Hoja() {
-        SelectObject(dc_, anterior_);
-        DeleteObject(mapa_);
-        DeleteDC(dc_);
-    }
-    HDC dc() const { return dc_; }
-
-  private:
-    HDC dc_;
-    HBITMAP mapa_;
-    HGDIOBJ anterior_;
-};
-
 bool Medir(EfectosDual* efectos, const std::string& nombre, LONG estilo, LONG ancho, LONG alto,
            int cuantos, double limite, int repeticiones) {
     Hoja hoja(ancho, alto);
@@ -118,8 +95,8 @@ bool Medir(EfectosDual* efectos, const std::string& nombre, LONG estilo, LONG an
     auto hdc = static_cast<LONG>(reinterpret_cast<LONG_PTR>(hoja.dc()));
     SHORT angulo = Angulo;
     const double razon =
-        Razon([&] { efectos->Degrade(&hdc, &ancho, &alto, estilo, valores, &angulo); },
-              [&] { malla.Llenar(hoja.dc()); }, repeticiones);
+        Razon({[&] { efectos->Degrade(&hdc, &ancho, &alto, estilo, valores, &angulo); }},
+              {[&] { malla.Llenar(hoja.dc()); }}, repeticiones);
     SysFreeString(valores);
     return Informar(nombre, razon, limite);
 }
