@@ -22,8 +22,8 @@ struct Lado {
 
 /// Median of the time of `medido` over the median of the time of `vara`, rounds interleaved so that
 /// whatever else the machine does falls on both. `hacer` of either runs `repeticiones` times a
-/// round.
-double Razon(const Lado& medido, const Lado& vara, int repeticiones, int rondas = 41);
+/// round; many short rounds, of a millisecond or less, are seldom interrupted.
+double Razon(const Lado& medido, const Lado& vara, int repeticiones, int rondas = 201);
 
 /// The middle one; `valores` is not empty.
 double Mediana(std::vector<double> valores);

@@ -1,8 +1,9 @@
 // Restoring 500 buttons from the stream of a form against reading the same bytes and assigning the
 // same properties one by one.
 //
-// Making the controls is on neither side: both find 500 that were just made, the other side's
-// already initialised, as any container has to.
+// Making the controls is on neither side: both begin with 500 that were just made and end with 500
+// that show the same. A container that does not load a control has to initialise it before it
+// assigns anything, so that belongs to the other side.
 #include "medidas/dual.h"
 #include "medidas/medida.h"
 
@@ -120,15 +121,11 @@ bool MedirCargar() {
                         Volver(flujo.get());
                         for (const auto& boton : botones) {
                             Leer(flujo.get(), bytes);
+                            iniciar(boton.get());
                             asignar(boton.get());
                         }
                     },
-                    [&] {
-                        hacer();
-                        for (const auto& boton : botones)
-                            iniciar(boton.get());
-                    },
-                    soltar};
+                    hacer, soltar};
     return Informar("cargar", Razon(medido, vara, 1, 31), 1.0);
 }
 

@@ -114,11 +114,11 @@ bool MedirDegrade() {
         LONG estilo;
         int repeticiones;
     } estilos[] = {
-        {"hori", Hori, 40}, {"vert", Vert, 40}, {"pirami", Pirami, 2}, {"diagonal", Diagonal, 2}};
+        {"hori", Hori, 10}, {"vert", Vert, 10}, {"pirami", Pirami, 1}, {"diagonal", Diagonal, 1}};
     bool bien = true;
     for (const auto& uno : estilos)
         bien = Medir(efectos, std::string("degrade_chico_") + uno.nombre, uno.estilo, 100, 30, 2,
-                     1.15, uno.repeticiones * 50) &&
+                     1.15, uno.repeticiones * 20) &&
                bien;
     for (const auto& uno : estilos)
         bien = Medir(efectos, std::string("degrade_grande_") + uno.nombre, uno.estilo, 800, 600,

@@ -26,7 +26,7 @@ bool MedirInvoke() {
                 info->Invoke(boton.get(), numero, modo, &parametros, resultado, nullptr, nullptr),
                 "ITypeInfo::Invoke");
         };
-        return Informar(nombre, Razon({directa}, {general}, 2000), 0.25);
+        return Informar(nombre, Razon({directa}, {general}, 500), 0.25);
     };
 
     VARIANT leido{}, valor{};

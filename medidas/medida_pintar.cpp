@@ -164,7 +164,7 @@ bool MedirPintar() {
                                        ponerExpandir(boton, VARIANT_TRUE);
                                        actualizar(boton);
                                    }},
-                                   {[&] { aMano.Repintar(); }}, 200);
+                                   {[&] { aMano.Repintar(); }}, 10);
         bien = Informar("pintar_boton", razon, 1.15);
         if (Captura::DeVentana(control->Ventana()) != Captura::DeVentana(aMano.Ventana()))
             throw FalloCom(E_FAIL, "the button drawn by hand looks different");
