@@ -56,9 +56,13 @@ double Razon(const Lado& medido, const Lado& vara, int repeticiones, int rondas)
     std::vector<double> deMedido, deVara;
     Tiempo(medido, repeticiones);
     Tiempo(vara, repeticiones);
+    // The sides take turns at going first: what one leaves in the caches the other finds.
     for (int i = 0; i < rondas; ++i) {
+        if (i % 2)
+            deVara.push_back(Tiempo(vara, repeticiones));
         deMedido.push_back(Tiempo(medido, repeticiones));
-        deVara.push_back(Tiempo(vara, repeticiones));
+        if (i % 2 == 0)
+            deVara.push_back(Tiempo(vara, repeticiones));
     }
     return Mediana(deMedido) / Mediana(deVara);
 }
