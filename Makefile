@@ -49,8 +49,9 @@ fuzz: setup-base
 soak: setup
 	@$H/remojar
 
-bench: ocx
-	@$H/construir win64 all
+bench: setup ocx
+	@$H/construir win64 medidas
+	@$H/construir win32 medidas
 	@$H/medir
 
 dist: ocx

@@ -47,6 +47,8 @@ Efectos& Botonazo::efectos() {
 }
 
 void Botonazo::InitProperties() {
+    // It starts out disabled, for as long as this lasts; nobody is to see that.
+    Mientras inicio(iniciando_);
     // The container's font is where a new button starts from, not a change of the button.
     const Fuente ambiente = entorno_.AmbientFont();
     for (Etiqueta* etiqueta : {lblTitulo.get(), LblSombra.get(), lblSombra2.get()})

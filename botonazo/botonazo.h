@@ -177,6 +177,7 @@ class Botonazo final : public ControlUsuario {
     Entorno& entorno_;
     std::unique_ptr<Efectos> efectos_;
     bool terminado_ = false;
+    bool iniciando_ = false; // a new button gets its first values
 
     std::int16_t m_Angulo = 0;
     std::uint8_t m_PasoProg = 0;

@@ -24,7 +24,7 @@ void Botonazo::PintarBoton(Imagen imagen, const Texto& Colores, bool Sobre) {
         return;
     }
     DibujarBoton(imagen, Colores, Sobre);
-    if (!m_Enabled && !m_Cargando)
+    if (!m_Enabled && !m_Cargando && !iniciando_)
         MostrarPicture1(100);
 }
 

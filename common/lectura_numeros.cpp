@@ -6,6 +6,7 @@
 // and digits of that base, "&" allowed after them. No currency sign.
 #include "common/conversion.h"
 #include "common/decimal_exacto.h"
+#include "common/entero_corto.h"
 #include "common/errores.h"
 
 #include <algorithm>
@@ -211,23 +212,6 @@ double ConSigno(const Leido& leido) {
     return leido.negativo ? -valor : valor;
 }
 
-/// The everyday case, a few decimal digits, without any of the above.
-bool EnteroCorto(VistaTexto texto, std::int32_t& valor) {
-    const bool negativo = !texto.empty() && texto.front() == u'-';
-    if (negativo)
-        texto.remove_prefix(1);
-    if (texto.empty() || texto.size() > 9)
-        return false;
-    std::int32_t suma = 0;
-    for (const char16_t letra : texto) {
-        if (!EsDigito(letra))
-            return false;
-        suma = suma * 10 + (letra - u'0');
-    }
-    valor = negativo ? -suma : suma;
-    return true;
-}
-
 /// A pattern read by Val: four digits or fewer are a 16-bit number unless closed with "&".
 double ValorDePatron(const Patron& patron) {
     if (!patron.largo && patron.bits <= 0xFFFF)
@@ -243,7 +227,8 @@ double TextoADoble(VistaTexto texto) {
 
 std::int32_t TextoAEntero32(VistaTexto texto) {
     std::int32_t corto = 0;
-    if (EnteroCorto(texto, corto))
+    if (const std::size_t largo = LeerEnteroCorto(texto, corto);
+        largo != 0 && largo == texto.size())
         return corto;
     return AEntero32(TextoADoble(texto));
 }

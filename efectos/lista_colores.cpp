@@ -1,6 +1,9 @@
 #include "efectos/lista_colores.h"
 
 #include "common/conversion.h"
+#include "common/entero_corto.h"
+
+#include <algorithm>
 
 namespace pincela {
 
@@ -11,9 +14,14 @@ bool EsListaUsable(VistaTexto lista) {
 ListaColores LeerColores(VistaTexto lista) {
     ListaColores colores;
     for (;;) {
-        const std::size_t fin = lista.find(kSeparadorColores);
-        colores.Agregar(Color(TextoAEntero32(lista.substr(0, fin))));
-        if (fin == VistaTexto::npos)
+        std::int32_t valor = 0;
+        std::size_t fin = LeerEnteroCorto(lista, valor);
+        if (fin == 0 || (fin != lista.size() && lista[fin] != kSeparadorColores)) {
+            fin = std::min(lista.find(kSeparadorColores), lista.size());
+            valor = TextoAEntero32(lista.substr(0, fin));
+        }
+        colores.Agregar(Color(valor));
+        if (fin == lista.size())
             return colores;
         lista.remove_prefix(fin + 1);
     }

@@ -14,7 +14,7 @@ inline constexpr char16_t kSeparadorColores = u'*';
 /// White then black: what an empty list stands for.
 inline constexpr VistaTexto kListaPredeterminada = u"16777215*0";
 
-using ListaColores = ListaCorta<Color, 16>;
+using ListaColores = ListaCorta<Color, 32>;
 
 /// A gradient needs two colours, that is one separator.
 bool EsListaUsable(VistaTexto lista);

@@ -24,6 +24,14 @@ class ListaCorta {
         ++cuantos_;
     }
 
+    /// Makes the list `cuantos` long, for elements that are all assigned now.
+    std::span<T> Ocupar(std::size_t cuantos) {
+        cuantos_ = cuantos;
+        if (cuantos > Cabida)
+            largos_.resize(cuantos);
+        return {cuantos > Cabida ? largos_.data() : cortos_.data(), cuantos};
+    }
+
     std::size_t Cuantos() const { return cuantos_; }
     std::span<const T> Vista() const {
         return {cuantos_ <= Cabida ? cortos_.data() : largos_.data(), cuantos_};

@@ -44,15 +44,17 @@ void CalcularFranjas(Malla& malla, bool horizontal, std::int32_t ancho, std::int
     // A 16-bit counter runs over the colours and one step past the last.
     if (colores.size() > std::numeric_limits<std::int16_t>::max())
         Lanzar(NumeroError::Desbordamiento);
+    const auto vertices = malla.vertices.Ocupar(colores.size());
+    const auto rectangulos = malla.rectangulos.Ocupar(colores.size() - 1);
     const double ultimo = static_cast<double>(colores.size()) - 1;
     for (std::uint32_t i = 0; i < colores.size(); ++i) {
         const double fraccion = i / ultimo;
         const bool opuesto = i % 2 != 0;
         const std::int32_t x = horizontal ? Coordenada(fraccion * ancho) : opuesto * ancho;
         const std::int32_t y = horizontal ? opuesto * alto : Coordenada(fraccion * alto);
-        malla.vertices.Agregar(Vertice(x, y, colores[i]));
+        vertices[i] = Vertice(x, y, colores[i]);
         if (i + 1 < colores.size())
-            malla.rectangulos.Agregar({i, i + 1});
+            rectangulos[i] = {i, i + 1};
     }
 }
 

@@ -11,11 +11,12 @@
 
 namespace pincela {
 
-/// Ready for one fill call: rectangles for the horizontal and vertical styles, else triangles.
+/// Ready for one fill call: rectangles for the horizontal and vertical styles, else triangles. Up
+/// to 32 colours cost no memory of the heap.
 struct Malla {
-    ListaCorta<TRIVERTEX, 16> vertices;
-    ListaCorta<GRADIENT_RECT, 8> rectangulos;
-    ListaCorta<GRADIENT_TRIANGLE, 14> triangulos;
+    ListaCorta<TRIVERTEX, 64> vertices;
+    ListaCorta<GRADIENT_RECT, 31> rectangulos;
+    ListaCorta<GRADIENT_TRIANGLE, 62> triangulos;
     ModoGradiente modo = ModoGradiente::RectanguloH;
 };
 

@@ -5,55 +5,38 @@
 
 namespace medidas {
 
-namespace {
-
-constexpr DISPID AnchoBorde = 0x68030003;
-
-} // namespace
+using namespace anfitrion;
 
 bool MedirInvoke() {
     const auto componente = AbrirComponente();
-    const auto objeto = componente.Crear(componente.Clase(L"Pincela.Botonazo"));
-    IDispatch* boton = nullptr;
-    if (FAILED(objeto->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(&boton))))
-        return false;
-    ITypeInfo* info = nullptr;
-    boton->GetTypeInfo(0, LOCALE_USER_DEFAULT, &info);
-    VARIANT resultado{};
+    const auto boton = componente.Crear(componente.Clase(L"Pincela.Botonazo")).Como<IDispatch>();
+    Puntero<ITypeInfo> info;
+    Comprobar(boton->GetTypeInfo(0, LOCALE_USER_DEFAULT, info.Recibir()), "GetTypeInfo");
+    const DISPID numero = Numero(boton.get(), L"AnchoBorde");
+
+    const auto comparar = [&](const char* nombre, WORD modo, DISPPARAMS& parametros,
+                              VARIANT* resultado) {
+        const auto directa = [&] {
+            Comprobar(boton->Invoke(numero, IID_NULL, LOCALE_USER_DEFAULT, modo, &parametros,
+                                    resultado, nullptr, nullptr),
+                      "IDispatch::Invoke");
+        };
+        const auto general = [&] {
+            Comprobar(
+                info->Invoke(boton.get(), numero, modo, &parametros, resultado, nullptr, nullptr),
+                "ITypeInfo::Invoke");
+        };
+        return Informar(nombre, Razon({directa}, {general}, 500), 0.25);
+    };
+
+    VARIANT leido{}, valor{};
     DISPPARAMS ninguno{};
-    bool bien = info != nullptr;
-    bien = bien && Informar("invoke_get",
-                            Razon(
-                                [&] {
-                                    boton->Invoke(AnchoBorde, IID_NULL, 0, DISPATCH_PROPERTYGET,
-                                                  &ninguno, &resultado, nullptr, nullptr);
-                                },
-                                [&] {
-                                    info->Invoke(boton, AnchoBorde, DISPATCH_PROPERTYGET, &ninguno,
-                                                 &resultado, nullptr, nullptr);
-                                },
-                                2000),
-                            0.25);
-    VARIANT valor{};
+    bool bien = comparar("invoke_get", DISPATCH_PROPERTYGET, ninguno, &leido);
     valor.vt = VT_I4;
     valor.lVal = 1;
     DISPID poner = DISPID_PROPERTYPUT;
     DISPPARAMS uno{&valor, &poner, 1, 1};
-    bien = bien && Informar("invoke_put",
-                            Razon(
-                                [&] {
-                                    boton->Invoke(AnchoBorde, IID_NULL, 0, DISPATCH_PROPERTYPUT,
-                                                  &uno, nullptr, nullptr, nullptr);
-                                },
-                                [&] {
-                                    info->Invoke(boton, AnchoBorde, DISPATCH_PROPERTYPUT, &uno,
-                                                 nullptr, nullptr, nullptr);
-                                },
-                                2000),
-                            0.25);
-    if (info)
-        info->Release();
-    boton->Release();
+    bien = comparar("invoke_put", DISPATCH_PROPERTYPUT, uno, nullptr) && bien;
     return bien;
 }
 

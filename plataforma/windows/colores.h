@@ -17,13 +17,12 @@ constexpr std::uint32_t APixel(COLORREF color) {
     return ((color & 0xFF) << 16) | (color & 0xFF00) | ((color >> 16) & 0xFF);
 }
 
-/// Solid fill without a brush of its own.
+/// Solid fill without a brush of its own; leaves another colour in the context's brush.
 inline void Llenar(HDC dc, const RECT& lugar, COLORREF color) {
     if (lugar.right <= lugar.left || lugar.bottom <= lugar.top)
         return;
-    const COLORREF anterior = ::SetDCBrushColor(dc, color);
+    ::SetDCBrushColor(dc, color);
     ::FillRect(dc, &lugar, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
-    ::SetDCBrushColor(dc, anterior);
 }
 
 } // namespace pincela::windows

@@ -113,7 +113,10 @@ void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie) {
         Destino destino;
         destino.dc = fondo.dc() ? fondo.dc() : dc;
         destino.enVentana = true;
-        if (fondo.dc())
+        const SIZE tamano = superficie.Tamano();
+        const bool entera = sucio.left <= 0 && sucio.top <= 0 && sucio.right >= tamano.cx &&
+                            sucio.bottom >= tamano.cy;
+        if (fondo.dc() && !entera)
             ::IntersectClipRect(fondo.dc(), sucio.left, sucio.top, sucio.right, sucio.bottom);
         if (superficie.Transparente())
             DibujarPadre(nucleo, destino.dc);

@@ -37,6 +37,8 @@ class GraficosConAviso final : public Graficos {
     void AlphaBlend(Manejador destino, std::int32_t xd, std::int32_t yd, std::int32_t anchod,
                     std::int32_t altod, Manejador origen, std::int32_t xo, std::int32_t yo,
                     std::int32_t anchoo, std::int32_t altoo, std::uint32_t mezcla) override {
+        if ((mezcla >> 16 & 0xFF) == 0) // nothing of the source is seen
+            return;
         reales_.AlphaBlend(destino, xd, yd, anchod, altod, origen, xo, yo, anchoo, altoo, mezcla);
         nucleo_.VistaCambiada();
     }
@@ -47,12 +49,14 @@ class GraficosConAviso final : public Graficos {
                                           altoElipse);
     }
     void SetWindowRgn(Manejador ventana, Manejador region, bool redibujar) override {
-        reales_.SetWindowRgn(ventana, region, redibujar);
+        if (ventana)
+            reales_.SetWindowRgn(ventana, region, redibujar);
     }
     void DeleteObject(Manejador objeto) override { reales_.DeleteObject(objeto); }
     PuntoPantalla GetCursorPos() override { return reales_.GetCursorPos(); }
+    // Asked only to know whether it is the control's own window.
     Manejador WindowFromPoint(PuntoPantalla punto) override {
-        return reales_.WindowFromPoint(punto);
+        return nucleo_.ventana ? reales_.WindowFromPoint(punto) : 0;
     }
 
   private:

@@ -20,8 +20,11 @@ bool Escena::Contiene(const ElementoVisual* elemento) const {
 }
 
 void Escena::Dibujar(const Destino& destino) const {
+    // Selecting a font is dear, and neighbours tend to have the same: each leaves its own in place.
+    const HGDIOBJ fuente = ::GetCurrentObject(destino.dc, OBJ_FONT);
     for (const ElementoVisual* elemento : elementos_)
         elemento->Dibujar(destino);
+    ::SelectObject(destino.dc, fuente);
 }
 
 void Escena::PppCambiado() {

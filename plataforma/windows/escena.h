@@ -18,6 +18,7 @@ struct Zona {
 
 class ElementoVisual {
   public:
+    /// May leave another font selected.
     virtual void Dibujar(const Destino& destino) const = 0;
     /// Dots per inch changed: sizes that follow them are measured again.
     virtual void PppCambiado() {}

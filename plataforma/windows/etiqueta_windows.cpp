@@ -137,7 +137,9 @@ void EtiquetaWindows::Dibujar(const Destino& destino) const {
     Medir();
     const RefFuenteGdi fuente = FuentePara(destino);
     const HDC dc = destino.dc;
-    Seleccion seleccion(dc, fuente->manija.get());
+    const HGDIOBJ fuenteAnterior = ::GetCurrentObject(dc, OBJ_FONT);
+    if (fuenteAnterior != fuente->manija.get())
+        ::SelectObject(dc, fuente->manija.get());
     const int modo = ::SetBkMode(dc, TRANSPARENT);
     const COLORREF colorAnterior = ::GetTextColor(dc);
     const UINT alineacion = ::SetTextAlign(dc, TA_LEFT | TA_TOP | TA_NOUPDATECP);
@@ -149,6 +151,8 @@ void EtiquetaWindows::Dibujar(const Destino& destino) const {
     }
     Escribir(dc, destino.Rectangulo(x, y, x + tamano_.cx, y + tamano_.cy),
              habilitada_ ? Resolver(color_) : ::GetSysColor(COLOR_3DSHADOW));
+    if (fuente != manija_) // it goes now, and can't while it is selected
+        ::SelectObject(dc, fuenteAnterior);
     ::SetTextAlign(dc, alineacion);
     ::SetTextColor(dc, colorAnterior);
     ::SetBkMode(dc, modo);

@@ -96,13 +96,12 @@ PrestamoDeFondo::PrestamoDeFondo(HDC modelo, SIZE tamano) {
         return;
     c.fondoPrestado = true;
     dc_ = c.fondo.dc();
-    nivel_ = ::SaveDC(dc_);
 }
 
 PrestamoDeFondo::~PrestamoDeFondo() {
     if (!dc_)
         return;
-    ::RestoreDC(dc_, nivel_);
+    ::SelectClipRgn(dc_, nullptr);
     ElCompartido().fondoPrestado = false;
 }
 

@@ -22,7 +22,8 @@ class UsoDelModulo {
     ~UsoDelModulo();
 };
 
-/// The shared back buffer for the length of one painting; a painting inside another gets none.
+/// The shared back buffer for the length of one painting; a painting inside another gets none. It
+/// may be clipped; anything else about the context is given back as it was found.
 class PrestamoDeFondo {
   public:
     PrestamoDeFondo(HDC modelo, SIZE tamano);
@@ -33,7 +34,6 @@ class PrestamoDeFondo {
 
   private:
     HDC dc_ = nullptr;
-    int nivel_ = 0;
 };
 
 /// For measuring text; null when the platform has none left.

@@ -74,6 +74,8 @@ class Nucleo {
     void VistaDibujada() { invalidada_ = avisada_ = false; }
 
     void OlvidarAvisoDeVista() { avisada_ = false; }
+    /// The window was invalidated and has not been painted since.
+    bool PinturaPendiente() const { return invalidada_; }
 
     /// The window or one of its edit fields; what a container places inside is not its own.
     bool EsVentanaPropia(HWND otra) const;

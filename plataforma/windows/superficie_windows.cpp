@@ -25,8 +25,13 @@ void SuperficieWindows::PonTamano(SIZE tamano) {
 }
 
 void SuperficieWindows::Refresh() {
+    const auto testigo = nucleo_.Testigo();
     Cambiado();
-    if (!nucleo_.ventana)
+    if (testigo.expired() || !nucleo_.ventana)
+        return;
+    ::UpdateWindow(nucleo_.ventana);
+    // Somebody may have validated the window after it was invalidated.
+    if (testigo.expired() || !nucleo_.ventana || !nucleo_.PinturaPendiente())
         return;
     ::InvalidateRect(nucleo_.ventana, nullptr, FALSE);
     ::UpdateWindow(nucleo_.ventana);

@@ -7,9 +7,9 @@ namespace pincela::windows {
 
 namespace {
 
-// A timer finer than a frame of the screen is a watch on the mouse, and each tick wakes the process.
-// Once the mouse rests it looks at once when the mouse leaves, and only now and then for what comes
-// between the mouse and the control without a move.
+// A timer finer than a frame of the screen is a watch on the mouse, and each tick wakes the
+// process. Once the mouse rests it looks at once when the mouse leaves, and only now and then for
+// what comes between the mouse and the control without a move.
 constexpr std::int32_t Cuadro = 16;  // milliseconds
 constexpr std::int32_t Reposo = 100; // milliseconds
 constexpr int TicsHastaReposo = 10;

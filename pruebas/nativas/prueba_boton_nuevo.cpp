@@ -51,6 +51,14 @@ TEST_CASE("a new button tells its first values in order and only those that chan
                                               "PC AnchoBorde", "PC AlinText", "PC Expandir"});
 }
 
+TEST_CASE("a new button never takes the look of a disabled one") {
+    BotonDePrueba p;
+    p.b->InitProperties();
+    CHECK(p.Tomar({"Picture1.Desvanecer"}).empty());
+    p.b->PonEnabled(false);
+    CHECK(p.Tomar({"Picture1.Desvanecer"}).size() == 1);
+}
+
 TEST_CASE("a new button writes in the font of its container without telling of a change") {
     BotonDePrueba p;
     p.e.fuenteAmbiente = std::make_shared<FuenteGrabada>(AtributosFuente{.Name = u"Verdana"});

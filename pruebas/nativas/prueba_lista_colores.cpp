@@ -33,6 +33,8 @@ TEST_CASE("Colours are read in order") {
     CHECK(Leidos(u"16777215*12632256*0") == Numeros{0xFFFFFF, 0xC0C0C0, 0});
     CHECK(Leidos(u"-1*-2147483648*2147483647") == Numeros{-1, INT_MIN, INT_MAX});
     CHECK(Leidos(u"7") == Numeros{7});
+    CHECK(Leidos(u"999999999*-999999999*0000000012") == Numeros{999999999, -999999999, 12});
+    CHECK(Leidos(u"12 *3-*-0") == Numeros{12, -3, 0});
 }
 
 TEST_CASE("A piece converts as automation converts text") {
@@ -46,7 +48,7 @@ TEST_CASE("A piece converts as automation converts text") {
 TEST_CASE("A piece that is no number is a mismatch") {
     const Texto lista =
         pincela::pruebas::Cada<Texto>({u"", u"*", u"0**255", u"0*", u"*0", u"0*rojo", u"0*&H",
-                                       u"0*0x10", u"0* ", u"0;255", u"0*1-2"});
+                                       u"0*0x10", u"0* ", u"0;255", u"0*1-2", u"-*0", u"0*-"});
     CAPTURE(lista);
     CHECK(ErrorDe([&] { LeerColores(lista); }) == kTipos);
 }

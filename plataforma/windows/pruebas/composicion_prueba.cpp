@@ -1,6 +1,8 @@
 #include "plataforma/windows/objetos_windows.h"
 #include "plataforma/windows/pruebas/banco.h"
 
+#include "pruebas/cada.h"
+
 #include <doctest/doctest.h>
 
 using namespace pincela;
@@ -270,4 +272,19 @@ TEST_CASE("A sample of everything is painted") {
     if (const wchar_t* fichero = ::_wgetenv(L"PINCELA_MUESTRA"))
         grande.Guardar(fichero);
     CHECK(HayTinta(grande, {0, 0, 220, 120}, 0xF0F0F0));
+}
+
+TEST_CASE("A refresh paints once, also where somebody validated the window meanwhile") {
+    Banco banco;
+    const HWND ventana = banco.Activar();
+    ::UpdateWindow(ventana);
+    Superficie& superficie = banco.entorno->superficie();
+    const bool validada = pincela::pruebas::Cada<bool>({false, true});
+    CAPTURE(validada);
+    superficie.Cls();
+    if (validada)
+        ::ValidateRect(ventana, nullptr);
+    banco.Olvidar();
+    superficie.Refresh();
+    CHECK(banco.hechos() == std::vector<std::string>{"Paint"});
 }
