@@ -1,7 +1,7 @@
 // What the language needs under an exception, without asking anybody for memory. The compiler's own
-// version takes it from the heap when the first exception of a thread is thrown, and ends the process
-// when there is none: just then an exception that tells of it has to reach its caller. It also leaves
-// that memory behind when the component is unloaded.
+// version takes it from the heap when the first exception of a thread is thrown, and ends the
+// process when there is none: just then an exception that tells of it has to reach its caller. It
+// also leaves that memory behind when the component is unloaded.
 #include <windows.h>
 
 #include <cxxabi.h>
@@ -135,8 +135,8 @@ void __cxa_guard_abort(__guard* guarda) noexcept {
 } // namespace __cxxabiv1
 
 #ifndef _WIN64
-// The 32-bit unwinder guards its tables with a lock of that kind, one in the whole module; the library
-// that has them keeps each in the heap.
+// The 32-bit unwinder guards its tables with a lock of that kind, one in the whole module; the
+// library that has them keeps each in the heap.
 extern "C" {
 
 namespace {

@@ -20,8 +20,8 @@ class Volcador {
         wchar_t nombre[512];
         for (DWORD i = 0;; ++i) {
             DWORD largo = 512;
-            if (RegEnumKeyExW(clave.get(), i, nombre, &largo, nullptr, nullptr, nullptr,
-                              nullptr) != ERROR_SUCCESS)
+            if (RegEnumKeyExW(clave.get(), i, nombre, &largo, nullptr, nullptr, nullptr, nullptr) !=
+                ERROR_SUCCESS)
                 return;
             const std::wstring minusculas = EnMinusculas(nombre);
             if (minusculas == L"wow6432node")
