@@ -18,9 +18,9 @@ struct Nulo {
 /// An optional argument that the caller left out.
 struct Falta {
     Falta() = default;
-    // Not copied byte by byte: where every alternative is, or can't fail to be moved, some libraries
-    // take a variant for one that never is empty, and when the copy of a text runs out of memory they
-    // destroy an alternative that was never made.
+    // Not copied byte by byte: where every alternative is, or can't fail to be moved, some
+    // libraries take a variant for one that never is empty, and when the copy of a text runs out of
+    // memory they destroy an alternative that was never made.
     Falta(const Falta&) noexcept {}
     Falta& operator=(const Falta&) noexcept { return *this; }
     friend bool operator==(Falta, Falta) = default;

@@ -1,7 +1,7 @@
 // What the language needs under an exception, without asking anybody for memory. The compiler's own
-// version takes it from the heap when the first exception of a thread is thrown, and ends the process
-// when there is none: just then an exception that tells of it has to reach its caller. It also leaves
-// that memory behind when the component is unloaded.
+// version takes it from the heap when the first exception of a thread is thrown, and ends the
+// process when there is none: just then an exception that tells of it has to reach its caller. It
+// also leaves that memory behind when the component is unloaded.
 #include <windows.h>
 
 #include <cxxabi.h>

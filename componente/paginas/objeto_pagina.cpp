@@ -167,9 +167,8 @@ HRESULT ObjetoPagina::Activate(HWND padre, LPCRECT lugar, BOOL) {
     if (ventana_.Ventana())
         return E_UNEXPECTED;
     Trabajo trabajo(*this);
-    const HRESULT creada = Proteger(*clase_.datos, [&] {
-        return ventana_.CrearVentana(padre) ? S_OK : E_FAIL;
-    });
+    const HRESULT creada =
+        Proteger(*clase_.datos, [&] { return ventana_.CrearVentana(padre) ? S_OK : E_FAIL; });
     if (FAILED(creada)) {
         ventana_.DestruirVentana(); // whatever there is of it
         return creada;
@@ -235,8 +234,7 @@ HRESULT ObjetoPagina::TranslateAccelerator(MSG* mensaje) {
     if (!mensaje)
         return E_POINTER;
     Trabajo trabajo(*this);
-    return Proteger(*clase_.datos,
-                    [&] { return ventana_.Pretraducir(*mensaje) ? S_OK : S_FALSE; });
+    return Proteger(*clase_.datos, [&] { return ventana_.Pretraducir(*mensaje) ? S_OK : S_FALSE; });
 }
 
 HRESULT ObjetoPagina::EditProperty(DISPID propiedad) {

@@ -1,4 +1,5 @@
-// Null pointers handed to every class through every interface, where something was to be put or read.
+// Null pointers handed to every class through every interface, where something was to be put or
+// read.
 #include "anfitrion/bolsa_memoria.h"
 #include "pruebas/componente/com/clases_disponibles.h"
 
@@ -20,12 +21,12 @@ void Con(const Puntero<IUnknown>& objeto, F f) {
 
 void ComprobarIdentidad(const Puntero<IUnknown>& objeto) {
     // Every interface answers the three questions that all have.
-    for (const IID& iid : {IID_IDispatch, IID_IOleObject, IID_IOleControl, IID_IOleInPlaceObject,
-                           IID_IOleInPlaceActiveObject, IID_IViewObject2, IID_IPersistStreamInit,
-                           IID_IPersistStorage, IID_IPersistPropertyBag, IID_IProvideClassInfo2,
-                           IID_IConnectionPointContainer, IID_ISpecifyPropertyPages,
-                           IID_ISupportErrorInfo, IID_IPerPropertyBrowsing, IID_IQuickActivate,
-                           IID_IDataObject, IID_IPropertyPage}) {
+    for (const IID& iid :
+         {IID_IDispatch, IID_IOleObject, IID_IOleControl, IID_IOleInPlaceObject,
+          IID_IOleInPlaceActiveObject, IID_IViewObject2, IID_IPersistStreamInit,
+          IID_IPersistStorage, IID_IPersistPropertyBag, IID_IProvideClassInfo2,
+          IID_IConnectionPointContainer, IID_ISpecifyPropertyPages, IID_ISupportErrorInfo,
+          IID_IPerPropertyBrowsing, IID_IQuickActivate, IID_IDataObject, IID_IPropertyPage}) {
         Puntero<IUnknown> interfaz;
         if (FAILED(objeto->QueryInterface(iid, interfaz.RecibirVoid())))
             continue;
@@ -57,8 +58,8 @@ void ComprobarTardio(IDispatch& despacho) {
     CHECK(despacho.Invoke(0x7FFFFFF0, IID_NULL, 0, DISPATCH_PROPERTYGET, &ninguno, &valor, nullptr,
                           nullptr) == DISP_E_MEMBERNOTFOUND);
     CHECK(valor.vt == VT_EMPTY);
-    CHECK(FAILED(despacho.Invoke(0x7FFFFFF0, IID_NULL, 0, DISPATCH_PROPERTYGET, nullptr, nullptr, nullptr,
-                                 nullptr)));
+    CHECK(FAILED(despacho.Invoke(0x7FFFFFF0, IID_NULL, 0, DISPATCH_PROPERTYGET, nullptr, nullptr,
+                                 nullptr, nullptr)));
 }
 
 /// Every member of the default interface that takes one pointer, by its place in the table.
@@ -76,10 +77,13 @@ int ComprobarTabla(const Puntero<IUnknown>& objeto, const Clase& clase) {
     for (UINT i = 0; i < rasgos->cFuncs; ++i) {
         FUNCDESC* funcion = nullptr;
         REQUIRE(tabla->GetFuncDesc(i, &funcion) == S_OK);
-        const TYPEDESC* tipo = funcion->cParams == 1 ? &funcion->lprgelemdescParam[0].tdesc : nullptr;
+        const TYPEDESC* tipo =
+            funcion->cParams == 1 ? &funcion->lprgelemdescParam[0].tdesc : nullptr;
         // An object may be set to nothing.
-        const bool puntero = tipo && tipo->vt == VT_PTR && funcion->invkind != INVOKE_PROPERTYPUTREF;
-        if (puntero && funcion->memid != DISPID_UNKNOWN && funcion->oVft >= 7 * static_cast<int>(sizeof(void*))) {
+        const bool puntero =
+            tipo && tipo->vt == VT_PTR && funcion->invkind != INVOKE_PROPERTYPUTREF;
+        if (puntero && funcion->memid != DISPID_UNKNOWN &&
+            funcion->oVft >= 7 * static_cast<int>(sizeof(void*))) {
             INFO("member ", funcion->memid, " of ", anfitrion::Estrechar(clase.nombre));
             using Miembro = HRESULT(STDMETHODCALLTYPE*)(void*, void*);
             auto* const* miembros = *reinterpret_cast<void***>(dual.get());
@@ -121,7 +125,8 @@ void ComprobarTipos(const Puntero<IUnknown>& objeto) {
         CHECK(uno.GetGUID(77, &guid) == E_INVALIDARG);
         CHECK(guid == GUID{});
     });
-    Con<ISpecifyPropertyPages>(objeto, [](ISpecifyPropertyPages& uno) { CHECK(uno.GetPages(nullptr) == E_POINTER); });
+    Con<ISpecifyPropertyPages>(
+        objeto, [](ISpecifyPropertyPages& uno) { CHECK(uno.GetPages(nullptr) == E_POINTER); });
     Con<IPerPropertyBrowsing>(objeto, [](IPerPropertyBrowsing& uno) {
         CALPOLESTR textos{};
         CADWORD galletas{};

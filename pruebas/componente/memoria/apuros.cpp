@@ -105,8 +105,8 @@ void Apurar(const std::string& que, const Negativa& negativa,
     const vivo::Monton despues = vivo::Memoria();
     std::printf("%s: %d requests, heap %+ld blocks %+ld bytes\n", enCurso.c_str(), turno - 1,
                 despues.bloques - monton.bloques, despues.bytes - monton.bytes);
-    // What the module hands to others is theirs to free: seen on the whole heap, where the platform's
-    // own caches breathe.
+    // What the module hands to others is theirs to free: seen on the whole heap, where the
+    // platform's own caches breathe.
     CHECK(despues.bloques - monton.bloques < 10 + turno / 4 + turno * perdidos);
 }
 

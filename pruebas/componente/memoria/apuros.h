@@ -31,11 +31,11 @@ void ConCadaNegativa(F f) {
 /// status.
 using Intento = std::function<HRESULT(const std::function<HRESULT()>&)>;
 
-/// Runs the action without refusals, then with the first request refused, the second and so on until
-/// one run needs no more. Each refused attempt ends in success or in a clean status; after each
-/// run the module holds as much as before: blocks, drawing objects, windows.
-/// The action makes what it needs, hands what is to be tried to its argument, once, and takes
-/// everything down again. `perdidos` is how many blocks of its own the platform may lose in a run.
+/// Runs the action without refusals, then with the first request refused, the second and so on
+/// until one run needs no more. Each refused attempt ends in success or in a clean status; after
+/// each run the module holds as much as before: blocks, drawing objects, windows. The action makes
+/// what it needs, hands what is to be tried to its argument, once, and takes everything down again.
+/// `perdidos` is how many blocks of its own the platform may lose in a run.
 void Apurar(const std::string& que, const Negativa& negativa,
             const std::function<void(const Intento&)>& accion, int perdidos = 0);
 /// The platform's edit field of many lines loses some whenever it goes.

@@ -10,7 +10,8 @@ Desvio::Desvio(HMODULE modulo, const std::vector<Desviada>& desviadas) {
     const auto* cabecera = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
     const IMAGE_DATA_DIRECTORY& lugar =
         cabecera->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-    const auto* libro = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + lugar.VirtualAddress);
+    const auto* libro =
+        reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + lugar.VirtualAddress);
     for (; libro->OriginalFirstThunk; ++libro) {
         const auto* nombres =
             reinterpret_cast<const IMAGE_THUNK_DATA*>(base + libro->OriginalFirstThunk);

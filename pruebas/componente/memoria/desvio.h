@@ -7,16 +7,16 @@
 
 namespace memoria {
 
-/// One function taken over: by its exported name, what is called in its place, and where to keep the
-/// address that was there before.
+/// One function taken over: by its exported name, what is called in its place, and where to keep
+/// the address that was there before.
 struct Desviada {
     const char* nombre;
     void* nueva;
     void** original;
 };
 
-/// While it lives, the module's calls of those functions go elsewhere; calls from other modules don't.
-/// The module has to stay loaded as long.
+/// While it lives, the module's calls of those functions go elsewhere; calls from other modules
+/// don't. The module has to stay loaded as long.
 class Desvio {
   public:
     Desvio(HMODULE modulo, const std::vector<Desviada>& desviadas);

@@ -39,9 +39,8 @@ using Prueba = std::function<void(const wchar_t* clase, const std::string& que, 
 
 void ConCadaControl(const Prueba& prueba) {
     for (const wchar_t* clase : Controles)
-        ConCadaNegativa([&](const Negativa& negativa) {
-            prueba(clase, Estrechar(clase).substr(8), negativa);
-        });
+        ConCadaNegativa(
+            [&](const Negativa& negativa) { prueba(clase, Estrechar(clase).substr(8), negativa); });
 }
 
 } // namespace
@@ -58,9 +57,8 @@ TEST_CASE("A control saved without memory says so, and can be saved afterwards")
         });
         Apurar("saving to a bag " + que, negativa, [&](const Intento& intentar) {
             const auto bolsa = Hacer<BolsaMemoria>();
-            intentar([&] {
-                return control.Como<IPersistPropertyBag>()->Save(bolsa.get(), TRUE, TRUE);
-            });
+            intentar(
+                [&] { return control.Como<IPersistPropertyBag>()->Save(bolsa.get(), TRUE, TRUE); });
             CHECK(BolsaDe(control)->Valores().size() == pares);
         });
         Apurar("saving to a storage " + que, negativa, [&](const Intento& intentar) {
@@ -71,12 +69,14 @@ TEST_CASE("A control saved without memory says so, and can be saved afterwards")
     });
 }
 
-TEST_CASE("A control loaded without memory says so, keeps what it had, and can be loaded afterwards") {
+TEST_CASE(
+    "A control loaded without memory says so, keeps what it had, and can be loaded afterwards") {
     Mesa& mesa = Mesa::La();
     ConCadaControl([&](const wchar_t* clase, const std::string& que, const Negativa& negativa) {
         // Loaded once itself: a picture is kept in another way than it was first made.
         const auto modelo = mesa.Crear(clase);
-        REQUIRE(modelo.Como<IPersistStreamInit>()->Load(FlujoDe(Guardado(Adornado(clase))).get()) == S_OK);
+        REQUIRE(modelo.Como<IPersistStreamInit>()->Load(FlujoDe(Guardado(Adornado(clase))).get()) ==
+                S_OK);
         const BytesDeFlujo buenos = Guardado(modelo);
         const auto bolsa = BolsaDe(modelo);
         const auto cargarFlujo = [&](const Puntero<IUnknown>& control) {
@@ -159,15 +159,15 @@ TEST_CASE("A control asked about itself without memory says so and clears what i
         });
         preguntar("kind of ", [&](const Intento& intentar) {
             LPOLESTR tipo = nullptr;
-            intentar([&] {
-                return control.Como<IOleObject>()->GetUserType(USERCLASSTYPE_FULL, &tipo);
-            });
+            intentar(
+                [&] { return control.Como<IOleObject>()->GetUserType(USERCLASSTYPE_FULL, &tipo); });
             CoTaskMemFree(tipo);
         });
         preguntar("pages of ", [&](const Intento& intentar) {
             const auto paginas = control.Como<ISpecifyPropertyPages>();
             CAUUID lista{9, reinterpret_cast<GUID*>(8)};
-            const HRESULT estado = intentar([&] { return paginas ? paginas->GetPages(&lista) : S_OK; });
+            const HRESULT estado =
+                intentar([&] { return paginas ? paginas->GetPages(&lista) : S_OK; });
             if (!paginas)
                 return;
             if (FAILED(estado))
@@ -177,20 +177,23 @@ TEST_CASE("A control asked about itself without memory says so and clears what i
         preguntar("types of ", [&](const Intento& intentar) {
             Puntero<ITypeInfo> tipo;
             intentar([&] {
-                const HRESULT estado = control.Como<IProvideClassInfo>()->GetClassInfo(tipo.Recibir());
+                const HRESULT estado =
+                    control.Como<IProvideClassInfo>()->GetClassInfo(tipo.Recibir());
                 CHECK(FAILED(estado) == !tipo);
                 return estado;
             });
         });
         preguntar("advice of ", [&](const Intento& intentar) {
-            const auto otro = mesa.Crear(clase); // makes the holders of its listeners when asked first
+            const auto otro =
+                mesa.Crear(clase); // makes the holders of its listeners when asked first
             const auto oyente = Hacer<Avisos>();
             DWORD galleta = 9, deDatos = 9;
             intentar([&] {
                 HRESULT estado = otro.Como<IOleObject>()->Advise(oyente.get(), &galleta);
                 CHECK(FAILED(estado) == (galleta == 0));
                 FORMATETC formato{CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1, TYMED_ENHMF};
-                const HRESULT datos = otro.Como<IDataObject>()->DAdvise(&formato, 0, oyente.get(), &deDatos);
+                const HRESULT datos =
+                    otro.Como<IDataObject>()->DAdvise(&formato, 0, oyente.get(), &deDatos);
                 CHECK(FAILED(datos) == (deDatos == 0));
                 return FAILED(estado) ? estado : datos;
             });
@@ -212,8 +215,9 @@ TEST_CASE("Every property read and written without memory gives its value or the
     ConCadaControl([](const wchar_t* clase, const std::string& que, const Negativa& negativa) {
         const auto control = Adornado(clase);
         const auto despacho = control.Como<IDispatch>();
-        for (const wchar_t* nombre : {L"Caption", L"Text", L"Font", L"Fuente", L"ImagNormal", L"ToolTipText",
-                                      L"ColorDegrade", L"EstilosRell", L"SelText"}) {
+        for (const wchar_t* nombre :
+             {L"Caption", L"Text", L"Font", L"Fuente", L"ImagNormal", L"ToolTipText",
+              L"ColorDegrade", L"EstilosRell", L"SelText"}) {
             if (!Tiene(despacho.get(), nombre))
                 continue;
             Apurar(Estrechar(nombre) + " of " + que, negativa, [&](const Intento& intentar) {

@@ -15,7 +15,8 @@ TEST_CASE("The drawing class without memory draws or says so, and draws afterwar
             publicado::Lamina lamina(60, 30);
             const auto degradar = [&] {
                 try {
-                    Llamar(efectos.get(), L"Degrade", {lamina.Numero(), 60L, 30L, 1L, L"255*65280*16711680"});
+                    Llamar(efectos.get(), L"Degrade",
+                           {lamina.Numero(), 60L, 30L, 1L, L"255*65280*16711680"});
                     return S_OK;
                 } catch (const FalloCom& fallo) {
                     return fallo.estado;
@@ -58,23 +59,25 @@ TEST_CASE("A property page without memory says so and works afterwards") {
                 hacer(pagina->Activate(marco.get(), &lugar, FALSE));
             if (SUCCEEDED(estado)) {
                 hacer(pagina->Show(SW_SHOW));
-                RedrawWindow(marco.get(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+                RedrawWindow(marco.get(), nullptr, nullptr,
+                             RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
                 hacer(pagina->Apply());
             }
             return estado;
         };
         ConCadaNegativa([&](const Negativa& negativa) {
-            Apurar("page " + Estrechar(caso.pagina).substr(8), negativa, [&](const Intento& intentar) {
-                const auto sitio = Hacer<paginas::SitioFalso>();
-                const auto pagina = mesa.componente.Crear(clase).Como<IPropertyPage>();
-                REQUIRE(pagina->SetPageSite(sitio.get()) == S_OK);
-                intentar([&] { return usar(pagina); });
-                pagina->Deactivate();
-                CHECK(usar(pagina) == S_OK);
-                pagina->Deactivate();
-                pagina->SetObjects(0, nullptr);
-                pagina->SetPageSite(nullptr);
-            });
+            Apurar("page " + Estrechar(caso.pagina).substr(8), negativa,
+                   [&](const Intento& intentar) {
+                       const auto sitio = Hacer<paginas::SitioFalso>();
+                       const auto pagina = mesa.componente.Crear(clase).Como<IPropertyPage>();
+                       REQUIRE(pagina->SetPageSite(sitio.get()) == S_OK);
+                       intentar([&] { return usar(pagina); });
+                       pagina->Deactivate();
+                       CHECK(usar(pagina) == S_OK);
+                       pagina->Deactivate();
+                       pagina->SetObjects(0, nullptr);
+                       pagina->SetPageSite(nullptr);
+                   });
         });
     }
 }

@@ -1,50 +1,59 @@
 #include "pruebas/componente/registro/claves.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace publicado {
 
 namespace {
 
-void VolcarValores(const Clave& clave, const std::wstring& ruta, std::vector<std::wstring>& a) {
-    wchar_t nombre[512];
-    std::vector<BYTE> datos(64 * 1024);
-    for (DWORD i = 0;; ++i) {
-        DWORD largoNombre = 512, largo = static_cast<DWORD>(datos.size()), tipo = 0;
-        const LSTATUS error = RegEnumValueW(clave.get(), i, nombre, &largoNombre, nullptr, &tipo,
-                                            datos.data(), &largo);
-        if (error == ERROR_NO_MORE_ITEMS)
-            return;
-        std::wstring valor = L"(type " + std::to_wstring(tipo) + L")";
-        if (error == ERROR_SUCCESS && tipo == REG_SZ) {
-            valor.assign(reinterpret_cast<const wchar_t*>(datos.data()), largo / sizeof(wchar_t));
-            while (!valor.empty() && valor.back() == L'\0')
-                valor.pop_back();
-        }
-        a.push_back(ruta + L" [" + nombre + L"] = " + valor);
-    }
-}
+/// Reads a hive; most of its time would go into buffers if each key had its own.
+class Volcador {
+  public:
+    std::vector<std::wstring> lineas;
 
-void VolcarClave(HKEY raiz, const std::wstring& absoluta, const std::wstring& ruta,
-                 std::vector<std::wstring>& a) {
-    const Clave clave(raiz, absoluta);
-    if (!clave)
-        return;
-    VolcarValores(clave, ruta, a);
-    wchar_t nombre[512];
-    for (DWORD i = 0;; ++i) {
-        DWORD largo = 512;
-        if (RegEnumKeyExW(clave.get(), i, nombre, &largo, nullptr, nullptr, nullptr, nullptr) !=
-            ERROR_SUCCESS)
+    void VolcarClave(HKEY raiz, const std::wstring& absoluta, const std::wstring& ruta) {
+        const Clave clave(raiz, absoluta);
+        if (!clave)
             return;
-        const std::wstring minusculas = EnMinusculas(nombre);
-        if (minusculas == L"wow6432node")
-            continue;
-        const std::wstring hija = ruta.empty() ? minusculas : ruta + L"\\" + minusculas;
-        a.push_back(hija);
-        VolcarClave(clave.get(), nombre, hija, a);
+        VolcarValores(clave, ruta);
+        wchar_t nombre[512];
+        for (DWORD i = 0;; ++i) {
+            DWORD largo = 512;
+            if (RegEnumKeyExW(clave.get(), i, nombre, &largo, nullptr, nullptr, nullptr, nullptr) !=
+                ERROR_SUCCESS)
+                return;
+            const std::wstring minusculas = EnMinusculas(nombre);
+            if (minusculas == L"wow6432node")
+                continue;
+            const std::wstring hija = ruta.empty() ? minusculas : ruta + L"\\" + minusculas;
+            lineas.push_back(hija);
+            VolcarClave(clave.get(), nombre, hija);
+        }
     }
-}
+
+  private:
+    void VolcarValores(const Clave& clave, const std::wstring& ruta) {
+        wchar_t nombre[512];
+        for (DWORD i = 0;; ++i) {
+            DWORD largoNombre = 512, largo = static_cast<DWORD>(datos_.size()), tipo = 0;
+            const LSTATUS error = RegEnumValueW(clave.get(), i, nombre, &largoNombre, nullptr,
+                                                &tipo, datos_.data(), &largo);
+            if (error == ERROR_NO_MORE_ITEMS)
+                return;
+            std::wstring valor = L"(type " + std::to_wstring(tipo) + L")";
+            if (error == ERROR_SUCCESS && tipo == REG_SZ) {
+                valor.assign(reinterpret_cast<const wchar_t*>(datos_.data()),
+                             largo / sizeof(wchar_t));
+                while (!valor.empty() && valor.back() == L'\0')
+                    valor.pop_back();
+            }
+            lineas.push_back(ruta + L" [" + nombre + L"] = " + valor);
+        }
+    }
+
+    std::vector<BYTE> datos_ = std::vector<BYTE>(64 * 1024);
+};
 
 } // namespace
 
@@ -54,10 +63,10 @@ std::wstring EnMinusculas(std::wstring texto) {
 }
 
 std::vector<std::wstring> Volcar(HKEY raiz, const std::wstring& ruta) {
-    std::vector<std::wstring> lineas;
-    VolcarClave(raiz, ruta, L"", lineas);
-    std::sort(lineas.begin(), lineas.end());
-    return lineas;
+    Volcador volcador;
+    volcador.VolcarClave(raiz, ruta, L"");
+    std::sort(volcador.lineas.begin(), volcador.lineas.end());
+    return std::move(volcador.lineas);
 }
 
 } // namespace publicado

@@ -11,6 +11,7 @@
 
 #include <psapi.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -33,10 +34,10 @@ struct Cifras {
 
     static SIZE_T Privados() {
         PROCESS_MEMORY_COUNTERS_EX cuenta{};
-        GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&cuenta),
-                             sizeof cuenta);
+        GetProcessMemoryInfo(GetCurrentProcess(),
+                             reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&cuenta), sizeof cuenta);
         // Not every platform tells what is private.
-        return cuenta.PrivateUsage ? cuenta.PrivateUsage : cuenta.WorkingSetSize;
+        return cuenta.PrivateUsage ? cuenta.PrivateUsage : cuenta.PagefileUsage;
     }
     void Decir(const char* cuando, int vueltas) const {
         std::printf("%-9s %7d turns, component %5ld blocks, heap %6ld blocks %9ld bytes, GDI %4d, "
@@ -93,7 +94,7 @@ class Remojo {
             if (Tiene(control.Despacho(), nombre))
                 Poner(control.Despacho(), nombre, valor);
         };
-        const std::wstring numero = std::to_wstring(vuelta_ % 100);
+        const std::wstring numero = std::to_wstring(100 + vuelta_ % 60);
         poner(L"Caption", L"&Vuelta " + numero);
         poner(L"Text", L"Texto " + numero);
         poner(L"ToolTipText", L"Globo " + numero);
@@ -105,7 +106,7 @@ class Remojo {
         poner(L"ColorFondoSobre", 0xFF00L);
         poner(L"ColorDegrade", vuelta_ % 2 ? L"255*65280*16711680" : L"16777215*0");
         poner(L"CambioProgre", vuelta_ % 3 == 0);
-        poner(L"Enabled", vuelta_ % 7 != 0);
+        poner(L"Enabled", vuelta_ % 5 != 0);
     }
 
     void Raton(HWND ventana, UINT mensaje, WPARAM w = 0) const {
@@ -114,12 +115,15 @@ class Remojo {
     void Usar(ControlAlojado& control) {
         const HWND ventana = control.Ventana();
         Vestir(control);
-        for (HWND una = ventana; una; una = una == ventana ? GetWindow(ventana, GW_CHILD) : nullptr) {
+        for (HWND una = ventana; una;
+             una = una == ventana ? GetWindow(ventana, GW_CHILD) : nullptr) {
             Raton(una, WM_MOUSEMOVE);
             Raton(una, WM_LBUTTONDOWN, MK_LBUTTON);
             Raton(una, WM_LBUTTONUP);
             for (const WPARAM tecla : {L'a', L'1', L','}) {
-                SendMessageW(una, WM_KEYDOWN, static_cast<WPARAM>(VkKeyScanW(static_cast<wchar_t>(tecla)) & 0xFF), 1);
+                SendMessageW(una, WM_KEYDOWN,
+                             static_cast<WPARAM>(VkKeyScanW(static_cast<wchar_t>(tecla)) & 0xFF),
+                             1);
                 SendMessageW(una, WM_CHAR, tecla, 1);
             }
             Raton(una, WM_MOUSELEAVE);
@@ -137,7 +141,8 @@ class Remojo {
         const auto flujo = publicado::FlujoDe({});
         const auto persistente = control.Como<IPersistStreamInit>();
         Comprobar(persistente->Save(flujo.get(), TRUE), "Save");
-        Comprobar(persistente->Load(publicado::FlujoDe(publicado::BytesDe(flujo.get())).get()), "Load");
+        Comprobar(persistente->Load(publicado::FlujoDe(publicado::BytesDe(flujo.get())).get()),
+                  "Load");
         const auto bolsa = Hacer<BolsaMemoria>();
         Comprobar(control.Como<IPersistPropertyBag>()->Save(bolsa.get(), TRUE, TRUE), "Save");
         Comprobar(control.Como<IPersistPropertyBag>()->Load(bolsa.get(), nullptr), "Load");
@@ -145,11 +150,11 @@ class Remojo {
     /// Controls come and go. Not those of many lines: the platform's edit field of that kind loses
     /// some blocks whenever it goes, and what is lost here must be ours.
     void Renovar() {
-        static constexpr const wchar_t* clases[] = {L"Pincela.Botonazo", L"Pincela.Tbox", L"Pincela.TboxSS",
-                                                    L"Pincela.Area"};
+        static constexpr const wchar_t* clases[] = {L"Pincela.Botonazo", L"Pincela.Tbox",
+                                                    L"Pincela.TboxSS", L"Pincela.Area"};
         const wchar_t* clase = clases[vuelta_ % 4];
-        auto control = forma_->Agregar(componente_, componente_.Clase(clase), L"Nuevo", {10, 10, 120, 50},
-                                       {}, vuelta_ % 2 ? area_.get() : nullptr);
+        auto control = forma_->Agregar(componente_, componente_.Clase(clase), L"Nuevo",
+                                       {10, 10, 120, 50}, {}, vuelta_ % 2 ? area_.get() : nullptr);
         control->Conectar([this](Evento&) { ++sucesos_; });
         Usar(*control);
         control->Verbo(OLEIVERB_UIACTIVATE);
@@ -161,7 +166,8 @@ class Remojo {
         const paginas::Ventana marco;
         const auto sitio = Hacer<paginas::SitioFalso>();
         const auto pagina =
-            componente_.Crear(publicado::Guid(publicado::ClaseDe(L"ProPColoresArea").clase)).Como<IPropertyPage>();
+            componente_.Crear(publicado::Guid(publicado::ClaseDe(L"ProPColoresArea").clase))
+                .Como<IPropertyPage>();
         IUnknown* objetos[] = {area_->Despacho()};
         Comprobar(pagina->SetPageSite(sitio.get()), "SetPageSite");
         Comprobar(pagina->SetObjects(1, objetos), "SetObjects");
@@ -175,7 +181,8 @@ class Remojo {
     }
     void Degradar() {
         Llamar(efectos_.get(), L"Degrade",
-               {lamina_.Numero(), 100L, 60L, 1 + static_cast<long>(vuelta_ % 4), L"255*65280*16711680"});
+               {lamina_.Numero(), 100L, 60L, 1 + static_cast<long>(vuelta_ % 4),
+                L"255*65280*16711680"});
     }
 
     Componente componente_;
@@ -194,9 +201,9 @@ TEST_CASE("A form used for a long time holds no more at the end than at the star
     Remojo remojo;
     static const memoria::Fallos& cuenta = *new memoria::Fallos(GetModuleHandleW(L"Pincela.ocx"));
     REQUIRE(cuenta.Contando());
-    // Every look and every page has its turn before anything is counted; later counts are taken at the
-    // same place of the round.
-    constexpr int Ronda = 420;
+    // Every look and every page has its turn before anything is counted; later counts are taken at
+    // the same place of the round.
+    constexpr int Ronda = 60;
     const auto ronda = [&] {
         for (int i = 0; i < Ronda; ++i)
             remojo.Vuelta();
@@ -221,7 +228,7 @@ TEST_CASE("A form used for a long time holds no more at the end than at the star
     CHECK(despues.propios == antes.propios);
     CHECK(despues.gdi == antes.gdi);
     CHECK(despues.ventanas == antes.ventanas);
-    // The platform's caches breathe; a leak in every tenth turn would be more than this.
-    CHECK(despues.monton.bloques - antes.monton.bloques < 84);
+    // The platform's caches breathe; a leak in every twentieth turn would be more than this.
+    CHECK(despues.monton.bloques - antes.monton.bloques < std::max(20, remojo.Vueltas() / 20));
     CHECK(despues.monton.bytes - antes.monton.bytes < 128L * 1024);
 }
