@@ -19,7 +19,8 @@ TEST_CASE("What is copied is text that an editor can keep, and pastes beside wha
     const RECT r = b.Control(L"Uno2")->Rectangulo();
     CHECK(r.left == 16 + 2 * b.mesa->Paso());
     CHECK(b.Elegidos() == "Uno2 ");
-    PonerEnPortapapeles(b.marco.Ventana(), L"Pincela.Area Editado 8 200 40 40\n  Caption = \"x\"\nFin");
+    PonerEnPortapapeles(b.marco.Ventana(),
+                        L"Pincela.Area Editado 8 200 40 40\n  Caption = \"x\"\nFin");
     b.mesa->Hacer(Orden::Pegar);
     CHECK(b.Valor(L"Caption") == "x");
 }
