@@ -108,11 +108,25 @@ void Mesa::MostrarAdornos() {
     adornos_.Mostrar(cajas);
 }
 
-/// In design mode a panel may frame what stands on it, but nobody tells it that this has changed.
-void Mesa::MarcarPaneles() const {
-    for (const auto& control : forma_.Controles())
-        if (EsPanel(control))
-            control->AmbienteCambiado(DISPID_AMBIENT_USERMODE);
+/// In design mode a panel frames what stands on it as it is shown: it is shown anew where that has
+/// changed.
+void Mesa::MarcarPaneles() {
+    std::map<const ControlAlojado*, std::wstring> marcados;
+    for (const auto& control : Controles(forma_.Controles())) {
+        if (!EsPanel(control))
+            continue;
+        std::wstring& lugares = marcados[control.get()];
+        for (const auto& otro : forma_.ControlesEn(control.get())) {
+            const RECT& r = otro->Rectangulo();
+            for (const LONG lado : {r.left, r.top, r.right, r.bottom})
+                lugares += std::to_wstring(lado) + L" ";
+        }
+        if (lugares == marcados_[control.get()] || Ejecutando())
+            continue;
+        control->Verbo(OLEIVERB_HIDE);
+        control->Verbo(OLEIVERB_SHOW);
+    }
+    marcados_ = std::move(marcados);
 }
 
 Caja Mesa::CajaDe(const Control& control) const {

@@ -7,6 +7,7 @@
 #include "galeria/diseno/historia.h"
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 
@@ -101,7 +102,7 @@ class Mesa {
     diseno::Caja Interior(const Control& panel, const diseno::Caja& caja) const;
     void PonerCaja(const Control& control, const diseno::Caja& caja);
     void MostrarAdornos();
-    void MarcarPaneles() const;
+    void MarcarPaneles();
 
     // mesa_raton.cpp
     bool Tocar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado);
@@ -131,6 +132,8 @@ class Mesa {
     /// Who hears each control while the form runs.
     std::vector<std::pair<Control, anfitrion::Puntero<anfitrion::SumideroEventos>>> oidos_;
     std::wstring herramienta_;
+    /// Places of what stands on each panel, as it was when the panel marked it.
+    std::map<const anfitrion::ControlAlojado*, std::wstring> marcados_;
     std::optional<diseno::Gesto> gesto_;
     Controles arrastrados_;  ///< in the order of the drag's boxes
     bool sumando_ = false;   ///< the rubber band adds to what is chosen
