@@ -119,8 +119,7 @@ void Formulario::Ordenar(const std::vector<std::shared_ptr<ControlAlojado>>& con
     for (const auto& control : controles_) {
         control->orden = siguienteOrden_++;
         if (const HWND ventana = control->Ventana())
-            SetWindowPos(ventana, HWND_TOP, 0, 0, 0, 0,
-                         SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+            SetWindowPos(ventana, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
     if (capa_)
         PonerCapa();

@@ -123,7 +123,8 @@ class Formulario {
     std::function<bool(ControlAlojado&)> alPedirPropiedades;
     /// A key, before anybody else; true: done.
     std::function<bool(const MSG&)> alTeclear;
-    /// In design mode, a message of the layer over the controls, before the form selects; true: done.
+    /// In design mode, a message of the layer over the controls, before the form selects; true:
+    /// done.
     std::function<bool(UINT, WPARAM, LPARAM, LRESULT&)> alDisenar;
     /// A message of a window that holds controls, before that control handles it; true: done.
     std::function<bool(ControlAlojado&, UINT, WPARAM, LPARAM, LRESULT&)> alFiltrar;

@@ -90,8 +90,7 @@ class Lector {
             const std::size_t primero = renglon_.find_first_not_of(L" \t\r\xFEFF");
             if (primero == std::wstring_view::npos || renglon_[primero] == L'\'')
                 continue;
-            renglon_ =
-                renglon_.substr(primero, renglon_.find_last_not_of(L" \t\r") + 1 - primero);
+            renglon_ = renglon_.substr(primero, renglon_.find_last_not_of(L" \t\r") + 1 - primero);
             return true;
         }
         return false;
@@ -264,8 +263,8 @@ class Conciliador {
     void Poner(const std::vector<Bloque>& bloques, ControlAlojado* dentro) {
         for (const Bloque& bloque : bloques) {
             auto control = forma_.Control(bloque.nombre);
-            if (control && (ClaseDe(control->Objeto()) != bloque.clase ||
-                            control->Dentro().get() != dentro)) {
+            if (control &&
+                (ClaseDe(control->Objeto()) != bloque.clase || control->Dentro().get() != dentro)) {
                 forma_.Quitar(*control);
                 control.reset();
             }
@@ -284,7 +283,8 @@ class Conciliador {
         if (!EqualRect(&control.Rectangulo(), &bloque.lugar))
             control.Mover(bloque.lugar);
         const auto guardado = Guardado(control);
-        if (guardado && EscribirPares(*guardado.get(), {}) == EscribirPares(*bloque.bolsa.get(), {}))
+        if (guardado &&
+            EscribirPares(*guardado.get(), {}) == EscribirPares(*bloque.bolsa.get(), {}))
             return;
         Comprobar(control.Como<IPersistPropertyBag>()->Load(bloque.bolsa.get(), nullptr),
                   "IPersistPropertyBag::Load");

@@ -10,9 +10,9 @@
 //     Fin
 //   Fin
 //
-// After class and name come left, top, width and height in pixels of a screen with the dots per inch
-// that the first line tells; without that line, of this one. valor_texto.h tells how values are
-// written.
+// After class and name come left, top, width and height in pixels of a screen with the dots per
+// inch that the first line tells; without that line, of this one. valor_texto.h tells how values
+// are written.
 #pragma once
 
 #include "anfitrion/formulario.h"

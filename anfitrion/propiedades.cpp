@@ -151,7 +151,8 @@ class Lector {
         // The gets first: a put says nothing about a member that can't be read.
         for (const WORD modo : {INVOKE_PROPERTYGET, INVOKE_PROPERTYPUTREF, INVOKE_PROPERTYPUT})
             for (UINT i = 0; i < atributos->cFuncs; ++i)
-                if (const Funcion funcion = FuncionDe(tipo_, i); funcion && funcion->invkind == modo)
+                if (const Funcion funcion = FuncionDe(tipo_, i);
+                    funcion && funcion->invkind == modo)
                     Agregar(*funcion);
         std::sort(propiedades_.begin(), propiedades_.end(),
                   [](const Propiedad& a, const Propiedad& b) {

@@ -62,7 +62,8 @@ std::wstring EscribirIcono(IUnknown* objeto) {
     BITMAP mapa{};
     if (partes.fIcon && partes.hbmColor && GetObjectW(partes.hbmColor, sizeof mapa, &mapa)) {
         const int ancho = mapa.bmWidth, alto = mapa.bmHeight;
-        std::vector<BYTE> colores(BytesDeColores(ancho, alto)), mascara(BytesDeMascara(ancho, alto));
+        std::vector<BYTE> colores(BytesDeColores(ancho, alto)),
+            mascara(BytesDeMascara(ancho, alto));
         BITMAPINFO info{{sizeof(BITMAPINFOHEADER), ancho, -alto, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
         const HDC hdc = CreateCompatibleDC(nullptr);
         GetDIBits(hdc, partes.hbmColor, 0, static_cast<UINT>(alto), colores.data(), &info,
@@ -129,7 +130,6 @@ std::wstring EscribirValor(const VARIANT& valor) {
         return {};
     }
 }
-
 
 namespace {
 
@@ -225,8 +225,8 @@ Variante Icono(std::wstring_view escrito) {
     const std::size_t colores = BytesDeColores(lados[0], lados[1]);
     if (bytes.size() != colores + BytesDeMascara(lados[0], lados[1]))
         Fallar(L"los bytes del icono están dañados");
-    const HICON icono = CreateIcon(nullptr, lados[0], lados[1], 1, 32, bytes.data() + colores,
-                                   bytes.data());
+    const HICON icono =
+        CreateIcon(nullptr, lados[0], lados[1], 1, 32, bytes.data() + colores, bytes.data());
     if (!icono)
         Fallar(L"los bytes del icono están dañados");
     return static_cast<IDispatch*>(CrearImagen(icono).get());
@@ -240,8 +240,7 @@ Variante Objeto(bool esImagen, std::wstring_view escrito) {
     flujo->Seek({}, STREAM_SEEK_SET, nullptr);
     Puntero<IDispatch> objeto;
     if (esImagen) {
-        if (FAILED(OleLoadPicture(flujo.get(), 0, FALSE, IID_IPictureDisp,
-                                  objeto.RecibirVoid())))
+        if (FAILED(OleLoadPicture(flujo.get(), 0, FALSE, IID_IPictureDisp, objeto.RecibirVoid())))
             Fallar(L"los bytes de la imagen están dañados");
         return objeto.get();
     }

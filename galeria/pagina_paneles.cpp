@@ -74,7 +74,7 @@ void PaginaPaneles::PonerPanelConControles() {
     };
     static constexpr Par DelTransparente[] = {
         {L"Caption", L"Transparente"}, {L"AlinText", IzqSup},
-        {L"EstilosBord", BordeNormal},      {L"BackStyle", 0},
+        {L"EstilosBord", BordeNormal}, {L"BackStyle", 0},
         {L"ColorLetra", Azul},
     };
     panel_ = PonerControl(L"Area", L"Panel", LugarPanel, {}, DelPanel);

@@ -43,12 +43,13 @@ constexpr struct {
     {L"disenador", L"Diseñador", &HacerPagina<galeria::PaginaDisenador>},
 };
 
-constexpr wchar_t Uso[] = L"galeria [--ocx FICHERO] [--pagina NOMBRE] [--captura FICHERO.png] "
-                          L"[--vacia]\n"
-                          L"  --ocx      usa ese componente en vez del registrado\n"
-                          L"  --pagina   empieza por esa página: botones, cajas, paneles, disenador\n"
-                          L"  --captura  escribe en PNG las páginas, o la que se pide, y termina\n"
-                          L"  --vacia    muestra la lámina sin controles\n";
+constexpr wchar_t Uso[] =
+    L"galeria [--ocx FICHERO] [--pagina NOMBRE] [--captura FICHERO.png] "
+    L"[--vacia]\n"
+    L"  --ocx      usa ese componente en vez del registrado\n"
+    L"  --pagina   empieza por esa página: botones, cajas, paneles, disenador\n"
+    L"  --captura  escribe en PNG las páginas, o la que se pide, y termina\n"
+    L"  --vacia    muestra la lámina sin controles\n";
 
 Ordenes LeerOrdenes() {
     Ordenes ordenes;

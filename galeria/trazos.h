@@ -13,6 +13,7 @@ constexpr COLORREF ColorBorde = RGB(203, 213, 225);
 constexpr COLORREF ColorLetra = RGB(31, 41, 55);
 constexpr COLORREF ColorLetraFloja = RGB(95, 107, 124);
 constexpr COLORREF ColorAcento = RGB(37, 99, 235);
+constexpr COLORREF ColorAviso = RGB(185, 28, 28);
 constexpr COLORREF ColorElegido = RGB(219, 234, 254);
 
 /// Of a fine line, in pixels.

@@ -33,8 +33,7 @@ void SumarMarco(HRGN forma, const Caja& c) {
     const int g = Grueso();
     for (const RECT& lado :
          {RECT{r.left, r.top, r.right, r.top + g}, RECT{r.left, r.bottom - g, r.right, r.bottom},
-          RECT{r.left, r.top, r.left + g, r.bottom},
-          RECT{r.right - g, r.top, r.right, r.bottom}})
+          RECT{r.left, r.top, r.left + g, r.bottom}, RECT{r.right - g, r.top, r.right, r.bottom}})
         Sumar(forma, lado);
 }
 
@@ -69,8 +68,8 @@ Adornos::Adornos(HWND forma) {
     clase.hInstance = GetModuleHandleW(nullptr);
     clase.lpszClassName = Clase;
     RegisterClassW(&clase); // fails harmlessly the second time
-    ventana_ = CreateWindowExW(0, Clase, L"", WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0, forma, nullptr,
-                               clase.hInstance, nullptr);
+    ventana_ = CreateWindowExW(0, Clase, L"", WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0, forma,
+                               nullptr, clase.hInstance, nullptr);
     SetWindowLongPtrW(ventana_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 

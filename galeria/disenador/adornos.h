@@ -14,8 +14,8 @@ namespace galeria {
 /// The platform's cursor for a handle; the arrow for none.
 const wchar_t* CursorDe(diseno::Agarre agarre);
 
-/// A window on the form with the shape of what it shows: controls never paint over it, and the mouse
-/// goes through everywhere else.
+/// A window on the form with the shape of what it shows: controls never paint over it, and the
+/// mouse goes through everywhere else.
 class Adornos {
   public:
     /// The window belongs to `forma`.
@@ -27,8 +27,8 @@ class Adornos {
     /// Side of a handle in pixels; odd, so that it has a middle.
     static int Lado();
 
-    /// Boxes in pixels of the form; the first one leads, and shows handles to be dragged where it is
-    /// the only one.
+    /// Boxes in pixels of the form; the first one leads, and shows handles to be dragged where it
+    /// is the only one.
     void Mostrar(const std::vector<diseno::Caja>& elegidas);
     /// The rectangle that is being spanned.
     void Abarcar(std::optional<diseno::Caja> banda);

@@ -30,9 +30,9 @@ int PintarImagen(HDC hdc, HBITMAP imagen, int x, const RECT& r) {
 
 HWND Barra::Agregar(const std::wstring& texto, int ancho, HBITMAP imagen,
                     std::function<void()> alPulsar, std::function<void()> alRepetir) {
-    const HWND ventana = CreateWindowExW(
-        0, L"BUTTON", texto.c_str(), WS_CHILD | WS_VISIBLE | BS_OWNERDRAW | BS_NOTIFY, 0, 0, 0, 0,
-        padre_, nullptr, GetModuleHandleW(nullptr), nullptr);
+    const HWND ventana = CreateWindowExW(0, L"BUTTON", texto.c_str(),
+                                         WS_CHILD | WS_VISIBLE | BS_OWNERDRAW | BS_NOTIFY, 0, 0, 0,
+                                         0, padre_, nullptr, GetModuleHandleW(nullptr), nullptr);
     SendMessageW(ventana, WM_SETFONT, reinterpret_cast<WPARAM>(fuente_), FALSE);
     const int antes = botones_.empty() ? 0 : separacion_ ? HuecoGrande : Hueco;
     botones_.push_back({ventana, ancho, antes, {}, std::move(alPulsar), std::move(alRepetir)});
@@ -93,9 +93,9 @@ bool Barra::Recibir(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado) {
     if (!boton)
         return false;
     // Copies: what is called may put the buttons in another order.
-    const auto manejador = HIWORD(w) == BN_CLICKED    ? boton->alPulsar
-                           : HIWORD(w) == BN_DBLCLK   ? boton->alRepetir
-                                                      : std::function<void()>();
+    const auto manejador = HIWORD(w) == BN_CLICKED  ? boton->alPulsar
+                           : HIWORD(w) == BN_DBLCLK ? boton->alRepetir
+                                                    : std::function<void()>();
     if (HIWORD(w) == BN_SETFOCUS || HIWORD(w) == BN_KILLFOCUS)
         InvalidateRect(boton->ventana, nullptr, FALSE);
     if (manejador)

@@ -18,9 +18,10 @@ class Barra {
     Barra& operator=(const Barra&) = delete;
 
     /// One more button at the right of the last one, `ancho` pixels at 96 dots per inch; `imagen`
-    /// may be null and is owned from now on. With a double click `alRepetir`, where given, is called.
-    HWND Agregar(const std::wstring& texto, int ancho, HBITMAP imagen, std::function<void()> alPulsar,
-                 std::function<void()> alRepetir = {});
+    /// may be null and is owned from now on. With a double click `alRepetir`, where given, is
+    /// called.
+    HWND Agregar(const std::wstring& texto, int ancho, HBITMAP imagen,
+                 std::function<void()> alPulsar, std::function<void()> alRepetir = {});
     /// A wider gap before the next one.
     void Separar();
     /// Upper left corner and height, in pixels.

@@ -24,9 +24,9 @@ HBITMAP ImagenDe(const Componente& componente, const std::wstring& clase) {
         LoadLibraryExW(dicho.substr(0, coma).c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
     if (!modulo)
         return nullptr;
-    const auto imagen = static_cast<HBITMAP>(
-        LoadImageW(modulo, MAKEINTRESOURCEW(_wtoi(dicho.c_str() + coma + 1)), IMAGE_BITMAP, 0, 0,
-                   LR_CREATEDIBSECTION));
+    const auto imagen =
+        static_cast<HBITMAP>(LoadImageW(modulo, MAKEINTRESOURCEW(_wtoi(dicho.c_str() + coma + 1)),
+                                        IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
     FreeLibrary(modulo);
     return imagen;
 }

@@ -11,7 +11,8 @@ inline constexpr const wchar_t* ClasesParaColocar[] = {L"Pincela.Botonazo", L"Pi
                                                        L"Pincela.Tbox",     L"Pincela.TBoxML",
                                                        L"Pincela.TboxSS",   L"Pincela.TboxSSML"};
 
-/// The picture for a toolbox that a class registers; null when there is none. The caller deletes it.
+/// The picture for a toolbox that a class registers; null when there is none. The caller deletes
+/// it.
 HBITMAP ImagenDe(const anfitrion::Componente& componente, const std::wstring& clase);
 
 } // namespace galeria

@@ -21,8 +21,8 @@ constexpr wchar_t Dibujos[] = L"Imágenes PNG (*.png)\0*.png\0";
 constexpr wchar_t Imagenes[] = L"Imágenes\0*.bmp;*.dib;*.gif;*.jpg;*.jpeg;*.ico;*.cur;*.wmf;*.emf\0"
                                L"Todos los ficheros\0*.*\0";
 
-std::optional<std::wstring> PedirFichero(HWND padre, const wchar_t* clases, const wchar_t* extension,
-                                         bool guardar) {
+std::optional<std::wstring> PedirFichero(HWND padre, const wchar_t* clases,
+                                         const wchar_t* extension, bool guardar) {
     wchar_t ruta[MAX_PATH] = L"";
     OPENFILENAMEW pedido{};
     pedido.lStructSize = sizeof pedido;
@@ -31,8 +31,8 @@ std::optional<std::wstring> PedirFichero(HWND padre, const wchar_t* clases, cons
     pedido.lpstrFile = ruta;
     pedido.nMaxFile = MAX_PATH;
     pedido.lpstrDefExt = extension;
-    pedido.Flags = OFN_EXPLORER | OFN_HIDEREADONLY |
-                   (guardar ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
+    pedido.Flags =
+        OFN_EXPLORER | OFN_HIDEREADONLY | (guardar ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
     if (!(guardar ? GetSaveFileNameW(&pedido) : GetOpenFileNameW(&pedido)))
         return {};
     return ruta;

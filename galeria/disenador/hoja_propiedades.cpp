@@ -91,9 +91,9 @@ void HojaPropiedades::Leer() {
 }
 
 std::size_t HojaPropiedades::Lugar(const std::wstring& nombre) const {
-    const auto suyo =
-        std::find_if(renglones_.begin(), renglones_.end(),
-                     [&](const Renglon& uno) { return uno.propiedad.nombre == nombre; });
+    const auto suyo = std::find_if(renglones_.begin(), renglones_.end(), [&](const Renglon& uno) {
+        return uno.propiedad.nombre == nombre;
+    });
     return static_cast<std::size_t>(suyo - renglones_.begin());
 }
 
@@ -192,12 +192,14 @@ bool HojaPropiedades::EscribirPropia(std::size_t cual, const std::wstring& texto
 
 bool HojaPropiedades::Poner(std::size_t lugar, const Variante& valor) {
     const Propiedad propiedad = renglones_[lugar].propiedad;
-    return mesa_.Cambiar([&] {
-        for (const auto& control : Mesa::Controles(mesa_.Seleccion()))
-            for (const Propiedad& suya : mesa_.ElExaminador().De(*control))
-                if (Comparten(propiedad, suya))
-                    anfitrion::Poner(control->Despacho(), suya, valor);
-    }, {}, propiedad.nombre);
+    return mesa_.Cambiar(
+        [&] {
+            for (const auto& control : Mesa::Controles(mesa_.Seleccion()))
+                for (const Propiedad& suya : mesa_.ElExaminador().De(*control))
+                    if (Comparten(propiedad, suya))
+                        anfitrion::Poner(control->Despacho(), suya, valor);
+        },
+        {}, propiedad.nombre);
 }
 
 Variante HojaPropiedades::Valor(std::size_t lugar) const {

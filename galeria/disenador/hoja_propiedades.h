@@ -24,8 +24,8 @@ class HojaPropiedades {
     /// Place of a property; past the last one when it isn't there.
     std::size_t Lugar(const std::wstring& nombre) const;
 
-    /// A value as the user writes it, for every chosen control. When one of them refuses it they all
-    /// keep what they had; false then, and the user is told.
+    /// A value as the user writes it, for every chosen control. When one of them refuses it they
+    /// all keep what they had; false then, and the user is told.
     bool Escribir(std::size_t lugar, const std::wstring& texto);
     bool Poner(std::size_t lugar, const anfitrion::Variante& valor);
     /// Of the control that leads.

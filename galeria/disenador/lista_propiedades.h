@@ -1,4 +1,5 @@
-// The list of properties as a window: names at the left, values at the right, edited in their place.
+// The list of properties as a window: names at the left, values at the right, edited in their
+// place.
 #pragma once
 
 #include "galeria/disenador/dialogos.h"
@@ -23,7 +24,8 @@ class ListaPropiedades {
 
     /// Chooses a row by its name; false when there is none.
     bool Elegir(const std::wstring& nombre);
-    /// Opens the editor in the chosen row: a field, or a list where there are values to choose from.
+    /// Opens the editor in the chosen row: a field, or a list where there are values to choose
+    /// from.
     void Editar();
     /// Asks the platform's dialog for a colour, a font or a picture.
     void Preguntar();
@@ -60,5 +62,12 @@ class ListaPropiedades {
     std::size_t editado_ = 0; ///< row of the editor
     bool aceptando_ = false;
 };
+
+/// Values to choose from, or a dialog of the platform.
+bool ConOpciones(const anfitrion::Propiedad& propiedad);
+bool ConDialogo(const anfitrion::Propiedad& propiedad);
+
+/// Of the button at the right end of the chosen row, in pixels.
+int AnchoDelBoton();
 
 } // namespace galeria

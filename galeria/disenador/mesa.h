@@ -7,6 +7,7 @@
 #include "galeria/diseno/historia.h"
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 
@@ -67,8 +68,8 @@ class Mesa {
     /// False, and the user is told, when the name is no name or is taken.
     bool Renombrar(const Control& control, const std::wstring& nombre);
     /// Does something with the form that can be undone. When it throws FalloCom everything is as it
-    /// was, and the user is told, after the name of what was being changed; false then. Changes that
-    /// follow each other under the same `seguido` are undone at once.
+    /// was, and the user is told, after the name of what was being changed; false then. Changes
+    /// that follow each other under the same `seguido` are undone at once.
     bool Cambiar(const std::function<void()>& cambio, const std::string& seguido = {},
                  const std::wstring& nombre = {});
 
@@ -101,7 +102,7 @@ class Mesa {
     diseno::Caja Interior(const Control& panel, const diseno::Caja& caja) const;
     void PonerCaja(const Control& control, const diseno::Caja& caja);
     void MostrarAdornos();
-    void MarcarPaneles() const;
+    void MarcarPaneles();
 
     // mesa_raton.cpp
     bool Tocar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado);
@@ -131,11 +132,16 @@ class Mesa {
     /// Who hears each control while the form runs.
     std::vector<std::pair<Control, anfitrion::Puntero<anfitrion::SumideroEventos>>> oidos_;
     std::wstring herramienta_;
+    /// Places of what stands on each panel, as it was when the panel marked it.
+    std::map<const anfitrion::ControlAlojado*, std::wstring> marcados_;
     std::optional<diseno::Gesto> gesto_;
-    Controles arrastrados_; ///< in the order of the drag's boxes
+    Controles arrastrados_;  ///< in the order of the drag's boxes
     bool sumando_ = false;   ///< the rubber band adds to what is chosen
     bool cambiando_ = false; ///< what is chosen now belongs to the state to come
 };
+
+/// Whether other controls can stand on it.
+bool EsPanel(const Mesa::Control& control);
 
 /// Without those that stand on another one of them, in the order of the form.
 Mesa::Controles Raices(const anfitrion::Formulario& forma, const Mesa::Controles& controles);

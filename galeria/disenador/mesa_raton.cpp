@@ -102,7 +102,8 @@ void Mesa::Apretar(Punto punto, bool sumar) {
         gesto_ = Gesto::Trazar(punto, rejilla_);
     } else if (const Agarre agarre = AgarreEn(punto); agarre != Agarre::Ninguno) {
         arrastrados_ = Seleccion();
-        gesto_ = Gesto::Estirar(punto, CajaDe(arrastrados_.front()), agarre, rejilla_.paso, rejilla_);
+        gesto_ =
+            Gesto::Estirar(punto, CajaDe(arrastrados_.front()), agarre, rejilla_.paso, rejilla_);
     } else if (const auto control = forma_.ControlEn({punto.x, punto.y})) {
         ApretarControl(control, punto, sumar);
     } else {
@@ -205,8 +206,8 @@ void Mesa::Menu(POINT pantalla) {
             AppendMenuW(menu, MF_STRING | (Puede(linea.orden) ? MF_ENABLED : MF_GRAYED),
                         static_cast<UINT_PTR>(linea.orden) + 1, linea.texto);
     }
-    const int elegida = TrackPopupMenu(menu, TPM_RETURNCMD | TPM_NONOTIFY, pantalla.x, pantalla.y, 0,
-                                       forma_.Ventana(), nullptr);
+    const int elegida = TrackPopupMenu(menu, TPM_RETURNCMD | TPM_NONOTIFY, pantalla.x, pantalla.y,
+                                       0, forma_.Ventana(), nullptr);
     DestroyMenu(menu);
     if (elegida > 0)
         Hacer(static_cast<Orden>(elegida - 1));

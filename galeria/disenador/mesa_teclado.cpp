@@ -18,8 +18,8 @@ bool Mesa::Teclear(const MSG& mensaje) {
             Hacer(Orden::Propiedades);
             return true;
         }
-        const bool hecha = Abajo(VK_CONTROL) ? TeclearConControl(mensaje.wParam)
-                                             : TeclearDiseno(mensaje.wParam);
+        const bool hecha =
+            Abajo(VK_CONTROL) ? TeclearConControl(mensaje.wParam) : TeclearDiseno(mensaje.wParam);
         if (hecha)
             return true;
     }
@@ -52,8 +52,7 @@ bool Mesa::TeclearDiseno(WPARAM tecla) {
             Abandonar();
         else if (!herramienta_.empty())
             TomarHerramienta(L"");
-        else if (const auto dentro =
-                     Seleccion().empty() ? nullptr : Seleccion().front()->Dentro())
+        else if (const auto dentro = Seleccion().empty() ? nullptr : Seleccion().front()->Dentro())
             forma_.Seleccionar(Controles{dentro});
         else
             forma_.Seleccionar({});
@@ -86,8 +85,8 @@ bool Mesa::TeclearConControl(WPARAM tecla) {
         WPARAM tecla;
         Orden orden;
     } Atajos[] = {
-        {'Z', Orden::Deshacer}, {'Y', Orden::Rehacer},    {'X', Orden::Cortar},
-        {'C', Orden::Copiar},   {'V', Orden::Pegar},      {'A', Orden::ElegirTodo},
+        {'Z', Orden::Deshacer}, {'Y', Orden::Rehacer}, {'X', Orden::Cortar},
+        {'C', Orden::Copiar},   {'V', Orden::Pegar},   {'A', Orden::ElegirTodo},
         {'J', Orden::AlFrente}, {'K', Orden::AlFondo},
     };
     for (const auto& atajo : Atajos)

@@ -63,9 +63,13 @@ void Mirador::Ajustar() {
     for (int vez = 0; vez < 2; ++vez) {
         RECT r{};
         GetClientRect(ventana_, &r);
-        SCROLLINFO info{sizeof info, SIF_RANGE | SIF_PAGE | SIF_POS, 0,
+        SCROLLINFO info{sizeof info,
+                        SIF_RANGE | SIF_PAGE | SIF_POS,
+                        0,
                         static_cast<int>(medida.cx) + margenes - 1,
-                        static_cast<UINT>(r.right),  x_, 0};
+                        static_cast<UINT>(r.right),
+                        x_,
+                        0};
         SetScrollInfo(ventana_, SB_HORZ, &info, TRUE);
         info.nMax = static_cast<int>(medida.cy) + margenes - 1;
         info.nPage = static_cast<UINT>(r.bottom);
@@ -211,7 +215,8 @@ bool Mirador::Tratar(UINT mensaje, WPARAM w, LPARAM l) {
         if (gesto_ && gesto_->Seguir(punto, false)) {
             const diseno::Rejilla rejilla{mesa_->Paso()};
             const Caja caja = gesto_->Cajas().front();
-            mesa_->Forma().PonerMedida({rejilla.Ajustar(caja.Ancho()), rejilla.Ajustar(caja.Alto())});
+            mesa_->Forma().PonerMedida(
+                {rejilla.Ajustar(caja.Ancho()), rejilla.Ajustar(caja.Alto())});
             InvalidateRect(ventana_, nullptr, FALSE);
         }
         return true;

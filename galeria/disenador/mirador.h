@@ -1,4 +1,5 @@
-// The window through which the designer's form is seen: it scrolls, and sizes the form by its edges.
+// The window through which the designer's form is seen: it scrolls, and sizes the form by its
+// edges.
 #pragma once
 
 #include "galeria/disenador/mesa.h"

@@ -13,21 +13,25 @@ Pincela.Area Cliente 24 24 472 224
   ColorLetra = &H008A3A1E
   Pincela.Tbox Nombre 16 40 216 48
     Caption = "Nombre"
+    AlinTBox = 2
     BackStyle = 0
     TipoSombra = 2
   Fin
   Pincela.Tbox Telefono 240 40 216 48
     Caption = "Teléfono"
+    AlinTBox = 2
     BackStyle = 0
     TipoSombra = 2
   Fin
   Pincela.TBoxML Notas 16 96 440 112
     Caption = "Notas"
+    AlinTBox = 2
     BackStyle = 0
     TipoSombra = 2
   Fin
 Fin
 Pincela.TboxSS Buscar 24 272 232 24
+  Text = "Buscar..."
 Fin
 Pincela.Botonazo Aceptar 272 344 104 32
   Caption = "Aceptar"

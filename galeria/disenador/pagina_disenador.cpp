@@ -16,7 +16,6 @@ using namespace anfitrion;
 
 namespace {
 
-constexpr COLORREF ColorAviso = RGB(185, 28, 28);
 
 // At 96 dots per inch.
 constexpr int Izquierda = 12, Derecha = AnchoPagina - 12, Columna = 692;
@@ -107,8 +106,8 @@ void PaginaDisenador::Armar() {
         mesa_ = std::make_unique<Mesa>(*componente_, mirador_.Ventana(),
                                        SIZE{Escala(480), Escala(360)});
         hoja_ = std::make_unique<HojaPropiedades>(*mesa_);
-        lista_ = std::make_unique<ListaPropiedades>(marco_.Ventana(), Gdi(texto_), *hoja_,
-                                                    dialogos_);
+        lista_ =
+            std::make_unique<ListaPropiedades>(marco_.Ventana(), Gdi(texto_), *hoja_, dialogos_);
         lista_->Colocar(Escalar(LugarLista));
         lista_->alElegir = [this](const std::wstring& nombre, const std::wstring& ayuda) {
             propiedad_ = nombre;
@@ -269,8 +268,9 @@ void PaginaDisenador::Avisar(const std::wstring& texto) {
     else if (!aviso_ && mesa_ && !mesa_->Herramienta().empty())
         frase = L"Trace el lugar del control con el ratón, o haga clic para ponerlo como siempre.";
     else if (!aviso_)
-        frase = L"Supr elimina; las flechas mueven, con Mayús cambian la medida y con Ctrl van de a "
-                L"un píxel.";
+        frase =
+            L"Supr elimina; las flechas mueven, con Mayús cambian la medida y con Ctrl van de a "
+            L"un píxel.";
     SetWindowTextW(estado_, frase.c_str());
 }
 
@@ -301,8 +301,8 @@ void PaginaDisenador::Actualizar() {
     }
     SetWindowTextW(medida_, medida.c_str());
     mirador_.Ajustar();
-    const RECT columna = Escalar({LugarObjetos.left - 2, LugarObjetos.bottom, LugarObjetos.right + 2,
-                                  LugarEstado.top});
+    const RECT columna = Escalar(
+        {LugarObjetos.left - 2, LugarObjetos.bottom, LugarObjetos.right + 2, LugarEstado.top});
     InvalidateRect(marco_.Ventana(), &columna, FALSE);
 }
 
@@ -349,110 +349,6 @@ void PaginaDisenador::PintarAyuda(HDC hdc) const {
     DrawTextW(hdc, ayuda_.c_str(), -1, &r,
               DT_WORDBREAK | DT_NOPREFIX | DT_END_ELLIPSIS | DT_EDITCONTROL);
     SelectObject(hdc, anterior);
-}
-
-// Messages and keys
-
-bool PaginaDisenador::Tratar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado) {
-    if (ordenes_.Recibir(mensaje, w, l, resultado) ||
-        herramientas_.Recibir(mensaje, w, l, resultado) ||
-        (lista_ && lista_->Recibir(mensaje, w, l, resultado)))
-        return true;
-    switch (mensaje) {
-    case WM_CTLCOLORSTATIC: {
-        const HDC hdc = reinterpret_cast<HDC>(w);
-        SetTextColor(hdc, aviso_ && reinterpret_cast<HWND>(l) == estado_ ? ColorAviso : ColorLetraFloja);
-        SetBkColor(hdc, ColorLamina);
-        SetDCBrushColor(hdc, ColorLamina);
-        resultado = reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
-        return true;
-    }
-    case WM_COMMAND:
-        if (reinterpret_cast<HWND>(l) != objetos_ || HIWORD(w) != CBN_SELCHANGE || !mesa_)
-            return false;
-        if (const auto lugar = static_cast<std::size_t>(SendMessageW(objetos_, CB_GETCURSEL, 0, 0));
-            lugar == 0)
-            mesa_->Forma().Seleccionar({});
-        else if (lugar <= mesa_->Forma().Controles().size())
-            mesa_->Forma().Seleccionar(
-                Mesa::Controles{mesa_->Forma().Controles()[lugar - 1]});
-        return true;
-    case WM_SETFOCUS:
-        if (!mesa_)
-            return false;
-        SetFocus(mesa_->Forma().Ventana());
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool PaginaDisenador::Atajo(const MSG& mensaje) {
-    if (mensaje.message != WM_KEYDOWN || !mesa_)
-        return false;
-    if (GetKeyState(VK_CONTROL) < 0)
-        return AtajoConControl(mensaje.wParam);
-    switch (mensaje.wParam) {
-    case VK_F4:
-        if (!mesa_->Ejecutando())
-            SetFocus(lista_->Ventana());
-        return true;
-    case VK_F5:
-        mesa_->Hacer(Orden::Ejecutar);
-        return true;
-    case VK_F6:
-        OtroPanel();
-        return true;
-    case VK_RETURN:
-        for (const HWND ventana : ordenes_.Ventanas())
-            if (ventana == GetFocus()) {
-                SendMessageW(ventana, BM_CLICK, 0, 0);
-                return true;
-            }
-        for (const BotonDeClase& boton : deClase_)
-            if (boton.ventana == GetFocus() && !boton.clase.empty()) {
-                mesa_->Colocar(boton.clase);
-                return true;
-            }
-        return false;
-    default:
-        return false;
-    }
-}
-
-bool PaginaDisenador::AtajoConControl(WPARAM tecla) {
-    switch (tecla) {
-    case 'O':
-        Abrirlo();
-        return true;
-    case 'S':
-        Guardarlo();
-        return true;
-    case 'E':
-        Exportarlo();
-        return true;
-    case 'Z':
-    case 'Y':
-        // In a field they are the field's own.
-        if (GetFocus() != lista_->Ventana())
-            return false;
-        mesa_->Hacer(tecla == 'Z' ? Orden::Deshacer : Orden::Rehacer);
-        return true;
-    default:
-        return false;
-    }
-}
-
-/// From the commands to the form, to the properties, and around.
-void PaginaDisenador::OtroPanel() {
-    const HWND foco = GetFocus(), forma = mesa_->Forma().Ventana();
-    const HWND derecha = mesa_->Ejecutando() ? diario_.Ventana() : lista_->Ventana();
-    if (foco == forma || IsChild(forma, foco))
-        SetFocus(derecha);
-    else if (foco == derecha || IsChild(derecha, foco))
-        SetFocus(ordenes_.Ventanas().front());
-    else
-        SetFocus(forma);
 }
 
 } // namespace galeria

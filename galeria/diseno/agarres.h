@@ -20,8 +20,8 @@ Caja CajaDe(const Caja& caja, Agarre agarre, int lado);
 /// The handle at a point. Corners win where they overlap with the middles of a small box.
 Agarre AgarreEn(const Caja& caja, Punto punto, int lado);
 
-/// The box with the edges of a handle moved by a distance and put on the grid; the opposite ones stay.
-/// It doesn't get smaller than `minimo` on a side.
+/// The box with the edges of a handle moved by a distance and put on the grid; the opposite ones
+/// stay. It doesn't get smaller than `minimo` on a side.
 Caja Estirar(const Caja& caja, Agarre agarre, int dx, int dy, int minimo, Rejilla rejilla);
 
 } // namespace diseno

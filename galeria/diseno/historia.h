@@ -28,8 +28,8 @@ class Historia {
     bool Anotar(Estado estado, const std::string& seguido = {}) {
         if (estado == estados_[actual_].estado)
             return false;
-        const bool sigue = actual_ > 0 && !seguido.empty() && !cortada_ &&
-                           estados_[actual_].seguido == seguido;
+        const bool sigue =
+            actual_ > 0 && !seguido.empty() && !cortada_ && estados_[actual_].seguido == seguido;
         estados_.resize(actual_ + 1);
         if (sigue)
             estados_.pop_back();

@@ -20,9 +20,8 @@ std::wstring RutaTemporal(const wchar_t* nombre) {
 struct BancoArchivos : Banco {
     BancoArchivos() {
         auto& dialogos = pagina->LosDialogos();
-        dialogos.abrir = dialogos.guardar = dialogos.exportar = [this](HWND) {
-            return std::optional(ruta);
-        };
+        dialogos.abrir = dialogos.guardar =
+            dialogos.exportar = [this](HWND) { return std::optional(ruta); };
     }
     std::wstring ruta;
 };
@@ -42,8 +41,8 @@ class Png {
         REQUIRE(SUCCEEDED(lector->GetFrame(0, cuadro.Recibir())));
         cuadro->GetSize(&ancho, &alto);
         bytes.resize(ancho * alto * 3);
-        REQUIRE(SUCCEEDED(cuadro->CopyPixels(nullptr, ancho * 3, static_cast<UINT>(bytes.size()),
-                                             bytes.data())));
+        REQUIRE(SUCCEEDED(
+            cuadro->CopyPixels(nullptr, ancho * 3, static_cast<UINT>(bytes.size()), bytes.data())));
     }
     COLORREF Pixel(UINT x, UINT y) const {
         const BYTE* p = &bytes[(y * ancho + x) * 3];
@@ -95,9 +94,8 @@ TEST_CASE("A dialog that is given up does nothing") {
     b.Poner(DosBotones);
     const std::string antes = b.Texto();
     auto& dialogos = b.pagina->LosDialogos();
-    dialogos.abrir = dialogos.guardar = dialogos.exportar = [](HWND) {
-        return std::optional<std::wstring>();
-    };
+    dialogos.abrir = dialogos.guardar =
+        dialogos.exportar = [](HWND) { return std::optional<std::wstring>(); };
     b.pagina->Abrirlo();
     b.pagina->Guardarlo();
     b.pagina->Exportarlo();
@@ -108,7 +106,8 @@ TEST_CASE("The form is exported as a picture, without the designer's marks") {
     BancoArchivos b;
     b.ruta = RutaTemporal(L"disenador.png");
     b.Poner(L"Pincela.Area Panel 80 80 240 160\r\n  ColorFondo = &H00FFC080\r\n"
-            L"  Pincela.Botonazo Dentro 16 32 120 40\r\n    ColorFondo = &H000000FF\r\n  Fin\r\nFin\r\n");
+            L"  Pincela.Botonazo Dentro 16 32 120 40\r\n    ColorFondo = &H000000FF\r\n  "
+            L"Fin\r\nFin\r\n");
     b.Elegir(L"Panel");
     b.pagina->Exportarlo();
     const Png png(b.ruta);

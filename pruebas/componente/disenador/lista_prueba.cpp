@@ -232,8 +232,7 @@ TEST_CASE("Colours, fonts and pictures come from the platform's dialogs") {
     CHECK(ofrecido == RGB(0x10, 0x20, 0x30));
     CHECK(b.Valor(L"ColorLetra") == "&H00030201");
     dialogos.fuente = [](HWND, IDispatch*) -> std::optional<Variante> {
-        return Variante(
-            static_cast<IDispatch*>(CrearFuente(L"Courier New", 12, true, true).get()));
+        return Variante(static_cast<IDispatch*>(CrearFuente(L"Courier New", 12, true, true).get()));
     };
     preguntar(L"Font");
     CHECK(b.Valor(L"Font") == "Courier New; 12 pt; negrita; cursiva");

@@ -1,4 +1,5 @@
 // The designer's commands: clipboard, order, run mode, and undoing all of it.
+#include "anfitrion/captura.h"
 #include "pruebas/componente/comun/boton.h"
 #include "pruebas/componente/disenador/banco.h"
 
@@ -19,7 +20,8 @@ TEST_CASE("What is copied is text that an editor can keep, and pastes beside wha
     const RECT r = b.Control(L"Uno2")->Rectangulo();
     CHECK(r.left == 16 + 2 * b.mesa->Paso());
     CHECK(b.Elegidos() == "Uno2 ");
-    PonerEnPortapapeles(b.marco.Ventana(), L"Pincela.Area Editado 8 200 40 40\n  Caption = \"x\"\nFin");
+    PonerEnPortapapeles(b.marco.Ventana(),
+                        L"Pincela.Area Editado 8 200 40 40\n  Caption = \"x\"\nFin");
     b.mesa->Hacer(Orden::Pegar);
     CHECK(b.Valor(L"Caption") == "x");
 }
@@ -193,4 +195,24 @@ TEST_CASE("Controls go to the front and to the back") {
     CHECK(b.Lugares() == "Pincela.Botonazo Dos 160 16 80 32|Pincela.Botonazo Uno 16 16 80 32|");
     b.mesa->Hacer(Orden::AlFondo);
     CHECK(b.Lugares() == "Pincela.Botonazo Uno 16 16 80 32|Pincela.Botonazo Dos 160 16 80 32|");
+}
+
+TEST_CASE("A panel frames what stands on it while the form is designed, and not while it runs") {
+    Banco b;
+    b.Poner(
+        L"Pincela.Area Panel 80 80 240 160\r\n  EstilosBord = 0\r\n  ColorLetra = &H00FF00FF\r\n"
+        L"  Pincela.Botonazo Dentro 16 32 120 40\r\n  Fin\r\nFin\r\n");
+    const auto marcas = [&](const RECT& r) {
+        b.mesa->Forma().BombearMensajes();
+        return Captura::DeVentana(b.Control(L"Panel")->Ventana()).Contar(r, RGB(255, 0, 255));
+    };
+    const RECT izquierda{0, 0, 120, 160}, derecha{145, 0, 240, 160};
+    CHECK(marcas(izquierda) > 0);
+    CHECK(marcas(derecha) == 0);
+    b.Elegir(L"Dentro");
+    b.mesa->Empujar(64, 0, false);
+    b.mesa->Forma().Seleccionar({}); // the frame of what is chosen lies over the mark
+    CHECK(marcas(derecha) > 0);
+    b.mesa->Hacer(Orden::Ejecutar);
+    CHECK(marcas({0, 0, 240, 160}) == 0);
 }

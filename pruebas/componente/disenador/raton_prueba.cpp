@@ -13,7 +13,8 @@ TEST_CASE("A control is placed where the mouse spans its place, on the grid") {
     CHECK(b.mesa->Herramienta().empty());
     b.mesa->TomarHerramienta(L"Pincela.Tbox");
     b.Clic(200, 100);
-    CHECK(b.Lugares() == "Pincela.Botonazo Botonazo1 16 16 104 32|Pincela.Tbox Tbox1 200 104 120 32|");
+    CHECK(b.Lugares() ==
+          "Pincela.Botonazo Botonazo1 16 16 104 32|Pincela.Tbox Tbox1 200 104 120 32|");
 }
 
 TEST_CASE("A control placed over a panel stands on it") {
@@ -55,7 +56,8 @@ TEST_CASE("A drag moves what is chosen, and what stands on it") {
     CHECK(b.Lugares().starts_with("Pincela.Botonazo Uno 56 24 80 32|"));
     b.Clic(170, 20, MK_CONTROL);
     b.Arrastrar(60, 30, 60, 70);
-    CHECK(b.Lugares().starts_with("Pincela.Botonazo Uno 56 64 80 32|Pincela.Botonazo Dos 160 56 80 32|"));
+    CHECK(b.Lugares().starts_with(
+        "Pincela.Botonazo Uno 56 64 80 32|Pincela.Botonazo Dos 160 56 80 32|"));
     b.Arrastrar(90, 90, 114, 90);
     CHECK(b.Control(L"Panel")->Rectangulo().left == 104);
     CHECK(b.mesa->CajaDe(b.Control(L"Dentro")).izquierda == 120);

@@ -3,8 +3,8 @@
 #include "anfitrion/imagenes.h"
 #include "anfitrion/tardio.h"
 #include "anfitrion/unidades.h"
-#include "pruebas/componente/comun/boton.h"
 #include "pruebas/cada.h"
+#include "pruebas/componente/comun/boton.h"
 
 #include <doctest/doctest.h>
 
@@ -79,9 +79,10 @@ TEST_CASE("A form written as text and read again is as it was") {
 TEST_CASE("A control that the text does not name goes, and one that it names anew comes") {
     Banco b;
     const auto boton = b.forma->Control(L"UnBotonazo");
-    LeerFormulario(*b.forma, b.componente,
-                   L"\xFEFF' a comment\nPincela.Botonazo UnBotonazo 1 2 30 40\n  AlinText = 8&\nFin\n"
-                   L"Pincela.TboxSS Otro 50 2 30 40\n  Text = \"suyo\"\nFin\n");
+    LeerFormulario(
+        *b.forma, b.componente,
+        L"\xFEFF' a comment\nPincela.Botonazo UnBotonazo 1 2 30 40\n  AlinText = 8&\nFin\n"
+        L"Pincela.TboxSS Otro 50 2 30 40\n  Text = \"suyo\"\nFin\n");
     CHECK(b.forma->Controles().size() == 2);
     CHECK(b.forma->Control(L"UnBotonazo") == boton);
     CHECK(Entero(b.Leer(L"UnBotonazo", L"AlinText")) == 8);
