@@ -102,7 +102,8 @@ Bytes GuardarIcono(HICON icono) {
     struct {
         BITMAPINFOHEADER cabecera;
         RGBQUAD paleta[2];
-    } info{{sizeof(BITMAPINFOHEADER), mapa.bmWidth, mapa.bmHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
+    } info{{sizeof(BITMAPINFOHEADER), mapa.bmWidth, mapa.bmHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0},
+           {}};
     const std::size_t imagen = sizeof info.cabecera + colores + mascara;
     const DWORD entrada = 22; // of the list of icons, with the one that it has
     const WORD lista[] = {0, 1, 1};
@@ -137,6 +138,47 @@ Bytes GuardarIcono(HICON icono) {
     return bytes;
 }
 
+/// Whether a saved bitmap tells of colour masks, as those of 16 and of 32 bits do on some
+/// platforms, but leaves no room for them: its pixels would be read from the wrong place.
+bool LeFaltanLasMascaras(const Bytes& bytes) {
+    constexpr std::size_t antes = sizeof(Cabecera), mascaras = 3 * sizeof(DWORD);
+    BITMAPFILEHEADER fichero;
+    BITMAPINFOHEADER cabecera;
+    if (bytes.size() < antes + sizeof fichero + sizeof cabecera)
+        return false;
+    std::memcpy(&fichero, bytes.data() + antes, sizeof fichero);
+    std::memcpy(&cabecera, bytes.data() + antes + sizeof fichero, sizeof cabecera);
+    return fichero.bfType == 0x4D42 && cabecera.biSize == sizeof cabecera &&
+           cabecera.biCompression == BI_BITFIELDS &&
+           fichero.bfOffBits < sizeof fichero + sizeof cabecera + mascaras;
+}
+
+/// A file with the bitmap in 32 bits, the last eight of which may be its opacity, or in 24.
+Bytes GuardarMapa(HBITMAP mapa) {
+    BITMAP medidas{};
+    if (!GetObjectW(mapa, sizeof medidas, &medidas))
+        throw FalloCom{E_UNEXPECTED};
+    const WORD bits = medidas.bmBitsPixel == 32 ? 32 : 24;
+    BITMAPINFO info{{sizeof(BITMAPINFOHEADER), medidas.bmWidth, medidas.bmHeight, 1, bits, BI_RGB,
+                     0, 0, 0, 0, 0},
+                    {}};
+    const auto alto = static_cast<UINT>(medidas.bmHeight);
+    const std::size_t fila = (static_cast<std::size_t>(medidas.bmWidth) * bits + 31) / 32 * 4;
+    BITMAPFILEHEADER fichero{0x4D42, 0, 0, 0, sizeof fichero + sizeof info.bmiHeader};
+    fichero.bfSize = static_cast<DWORD>(fichero.bfOffBits + fila * alto);
+    Bytes bytes = ConCabecera(fichero.bfSize);
+    std::uint8_t* const a = bytes.data() + sizeof(Cabecera);
+    std::memcpy(a, &fichero, sizeof fichero);
+    std::memcpy(a + sizeof fichero, &info.bmiHeader, sizeof info.bmiHeader);
+    const HDC hdc = CreateCompatibleDC(nullptr);
+    const bool bien =
+        GetDIBits(hdc, mapa, 0, alto, a + fichero.bfOffBits, &info, DIB_RGB_COLORS) != 0;
+    DeleteDC(hdc);
+    if (!bien)
+        throw FalloCom{E_UNEXPECTED};
+    return bytes;
+}
+
 Bytes GuardarPorSiMisma(IPersistStream* persistente) {
     Ptr<IStream> flujo;
     Exigir(CreateStreamOnHGlobal(nullptr, TRUE, flujo.Recibir()));
@@ -152,8 +194,8 @@ Bytes GuardarPorSiMisma(IPersistStream* persistente) {
 
 } // namespace
 
-// Not every picture object knows how to save a metafile or the opacity of an icon, though all can load
-// them.
+// Not every picture object knows how to save a metafile, the opacity of an icon or the pixels of a
+// bitmap in the screen's format, though all can load them.
 Bytes GuardarImagen(const Imagen& imagen) {
     const auto disp = Ptr<IPictureDisp>::Adoptar(windows::DesenvolverImagen(imagen));
     const auto ole = Ptr<IPicture>::De(disp.get());
@@ -169,7 +211,11 @@ Bytes GuardarImagen(const Imagen& imagen) {
             if (Bytes bytes = GuardarIcono(static_cast<HICON>(h)); !bytes.empty())
                 return bytes;
     }
-    return GuardarPorSiMisma(Ptr<IPersistStream>::De(disp.get()).get());
+    // By itself if it can: a picture that came out of a file is kept as that file.
+    Bytes bytes = GuardarPorSiMisma(Ptr<IPersistStream>::De(disp.get()).get());
+    if (clase == PICTYPE_BITMAP && LeFaltanLasMascaras(bytes))
+        return GuardarMapa(static_cast<HBITMAP>(LongToHandle(static_cast<LONG>(manejador))));
+    return bytes;
 }
 
 Imagen RestaurarImagen(const Bytes& bytes) {

@@ -71,6 +71,46 @@ std::vector<COLORREF> SobreBlanco(const Boton& boton) {
     return pixeles;
 }
 
+/// Eight pixels each way, all different where there are colours enough.
+HBITMAP MapaDe(WORD bits) {
+    struct {
+        BITMAPINFOHEADER cabecera;
+        RGBQUAD paleta[256];
+    } info{{sizeof(BITMAPINFOHEADER), 8, 8, 1, bits, BI_RGB, 0, 0, 0, 0, 0}, {}};
+    for (BYTE i = 0; RGBQUAD & color : info.paleta)
+        color = {static_cast<BYTE>(i * 40), static_cast<BYTE>(255 - i * 3), i, 0}, ++i;
+    void* memoria = nullptr;
+    const HBITMAP mapa = CreateDIBSection(nullptr, reinterpret_cast<const BITMAPINFO*>(&info),
+                                          DIB_RGB_COLORS, &memoria, nullptr, 0);
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HGDIOBJ antes = SelectObject(dc, mapa);
+    for (int i = 0; i < 64; ++i)
+        SetPixel(dc, i % 8, i / 8, i % 3 ? RGB(i * 4, 255 - i * 4, i) : RGB(0, 0, 255));
+    SelectObject(dc, antes);
+    DeleteDC(dc);
+    return mapa;
+}
+
+std::vector<COLORREF> PixelesDe(HBITMAP mapa) {
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HGDIOBJ antes = SelectObject(dc, mapa);
+    std::vector<COLORREF> pixeles;
+    for (int i = 0; i < 64; ++i)
+        pixeles.push_back(GetPixel(dc, i % 8, i / 8));
+    SelectObject(dc, antes);
+    DeleteDC(dc);
+    return pixeles;
+}
+
+HBITMAP MapaDelBoton(const Boton& boton) {
+    const Variante valor = Leer(boton.get(), L"ImagNormal");
+    const auto imagen = Puntero<IUnknown>(valor.punkVal).Como<IPicture>();
+    REQUIRE(imagen);
+    OLE_HANDLE manejador = 0;
+    REQUIRE(imagen->get_Handle(&manejador) == S_OK);
+    return static_cast<HBITMAP>(LongToHandle(static_cast<LONG>(manejador)));
+}
+
 } // namespace
 
 TEST_CASE("Every property of a button survives a stream, fonts and pictures too") {
@@ -170,6 +210,37 @@ TEST_CASE("An icon keeps its colours, its opacity and its mask on its way throug
     const Boton tercero; // what was loaded is saved as well as what was made
     REQUIRE(Cargar(tercero, Guardar(otro)) == S_OK);
     CHECK(SobreBlanco(tercero) == antes);
+}
+
+TEST_CASE("A bitmap of any depth keeps its pixels on its way through a stream, once and again") {
+    for (const WORD bits : {1, 4, 8, 16, 24, 32}) {
+        CAPTURE(bits);
+        const HBITMAP mapa = MapaDe(bits);
+        const std::vector<COLORREF> pixeles = PixelesDe(mapa);
+        CHECK(pixeles[0] != pixeles[5]);
+        const Boton uno, otro, tercero;
+        PonerRef(uno.get(), L"ImagNormal", Variante(anfitrion::CrearImagen(mapa).get()));
+        REQUIRE(Cargar(otro, Guardar(uno)) == S_OK);
+        CHECK(PixelesDe(MapaDelBoton(otro)) == pixeles);
+        REQUIRE(Cargar(tercero, Guardar(otro)) == S_OK);
+        CHECK(PixelesDe(MapaDelBoton(tercero)) == pixeles);
+    }
+}
+
+TEST_CASE("A bitmap in the screen's own format keeps its pixels on its way through a stream") {
+    const HDC pantalla = GetDC(nullptr), dc = CreateCompatibleDC(pantalla);
+    const HBITMAP mapa = CreateCompatibleBitmap(pantalla, 8, 8);
+    SelectObject(dc, mapa);
+    for (int i = 0; i < 64; ++i)
+        SetPixel(dc, i % 8, i / 8, RGB(i * 4, 255 - i * 4, i));
+    DeleteDC(dc);
+    ReleaseDC(nullptr, pantalla);
+    const std::vector<COLORREF> pixeles = PixelesDe(mapa);
+    CHECK(pixeles[0] != pixeles[5]);
+    const Boton uno, otro;
+    PonerRef(uno.get(), L"ImagNormal", Variante(anfitrion::CrearImagen(mapa).get()));
+    REQUIRE(Cargar(otro, Guardar(uno)) == S_OK);
+    CHECK(PixelesDe(MapaDelBoton(otro)) == pixeles);
 }
 
 TEST_CASE("The size of a button travels in its stream") {
