@@ -105,7 +105,7 @@ void ProPColores::SelectionChanged() {
         estado.fila->Vaciar();
     for (EditorColores& estado : estados_)
         Llenar(estado.cmbEstDegrade, {u"Solido", u"D_Hori", u"D_Vert", u"D_Pirami", u"D_Diagonal"});
-    auto& [normal, sobre] = estados_;
+    EditorColores &normal = estados_[0], &sobre = estados_[1];
     ParaCadaSeleccionado<Botonazo>([&](const Botonazo& boton) {
         normal.cbColLetra.PonBackColor(boton.ColorLetra());
         sobre.cbColLetra.PonBackColor(boton.ColorLetraSobre());
@@ -125,7 +125,7 @@ void ProPColores::SelectionChanged() {
 }
 
 void ProPColores::ApplyChanges() {
-    const auto& [normal, sobre] = estados_;
+    const EditorColores &normal = estados_[0], &sobre = estados_[1];
     ParaCadaSeleccionado<Botonazo>([&](Botonazo& boton) {
         boton.PonColorLetra(normal.cbColLetra.BackColor());
         boton.PonColorLetraSobre(sobre.cbColLetra.BackColor());
