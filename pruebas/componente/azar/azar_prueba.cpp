@@ -306,9 +306,13 @@ TEST_CASE("Random sequences end in statuses and leave nothing behind") {
     std::printf("%s: GDI %d -> %d, windows %d -> %d, blocks of the component %ld -> %ld, of all %ld -> %ld\n",
                 Estrechar(clase).c_str(), gdi, ObjetosGdi(), ventanas, Ventanas(), propios,
                 memoria::Fallos::BloquesVivos(), monton.bloques, despues.bloques);
-    // Two stay once in some thousands of sequences, at one class, and no more at those that follow; a
-    // leak for each control would be more even in the shorter share.
-    CHECK(ObjetosGdi() - gdi <= 2);
+    // The platform keeps a few device contexts and patterns once it has needed them all at a time: what
+    // a control leaves behind is left again.
+    if (const int quedan = ObjetosGdi(); quedan > gdi) {
+        Maltratar(azar, Sucesiones / 6, clase);
+        std::printf("%s: GDI once more %d -> %d\n", Estrechar(clase).c_str(), quedan, ObjetosGdi());
+        CHECK(ObjetosGdi() <= quedan);
+    }
     CHECK(Ventanas() == ventanas);
     CHECK(memoria::Fallos::BloquesVivos() == propios);
     // What goes to others is theirs to free. The platform's own caches of fonts and classes breathe, and
