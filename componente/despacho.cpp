@@ -201,15 +201,14 @@ HRESULT STDMETHODCALLTYPE Invoke(InterfazDual* yo, DISPID dispid, REFIID iid, LC
         if (!m->acceso)
             return m->invocar(*yo, argumentos, resultado);
         auto& control = detalle::NucleoDe<ControlUsuario>(yo);
-        if (!poner)
-            argumentos.convertidos = true;
-        if (poner)
+        if (poner) {
             m->acceso->PonerTardio(control, DesdeVariant(*argumentos.valores[0]),
                                    argumentos.convertidos);
-        else if (resultado)
-            m->Leer(control, *resultado);
-        else
-            m->Leer(control, *VarianteCom().Recibir());
+        } else {
+            argumentos.convertidos = true; // there is none
+            VarianteCom sinDestino;
+            m->Leer(control, resultado ? *resultado : sinDestino);
+        }
         return S_OK;
     } catch (const ErrorEjecucion& error) {
         if (!argumentos.convertidos) {
