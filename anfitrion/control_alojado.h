@@ -64,7 +64,6 @@ class ControlAlojado : public std::enable_shared_from_this<ControlAlojado> {
     HWND VentanaPadre() const;
     /// Window of the in-place active control; null when it is not active.
     HWND Ventana() const;
-    bool EstaEnSitio() const { return enSitio_; }
     bool Abierto() const { return static_cast<bool>(objeto_); }
     DWORD Marcas() const { return marcas_; } ///< OLEMISC bits
 

@@ -24,8 +24,6 @@ Texto DescripcionDe(NumeroError numero) {
         return u"No se puede llamar desde fuera a un miembro interno de la biblioteca";
     case NumeroError::ValorDePropiedad:
         return u"El valor de la propiedad no es válido";
-    case NumeroError::PropiedadDeSoloLectura:
-        return u"La propiedad es de sólo lectura";
     }
     return u"Error en tiempo de ejecución";
 }

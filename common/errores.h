@@ -19,7 +19,6 @@ enum class NumeroError : std::int32_t {
     NuloNoValido = 94,
     LlamadaInterna = 97,
     ValorDePropiedad = 380,
-    PropiedadDeSoloLectura = 383,
 };
 
 /// Text shown to the user for an error number, in Spanish.

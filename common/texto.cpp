@@ -20,8 +20,4 @@ std::vector<Texto> Partir(VistaTexto texto, char16_t separador) {
     }
 }
 
-Texto DesdeAscii(std::string_view texto) {
-    return Texto(texto.begin(), texto.end());
-}
-
 } // namespace pincela

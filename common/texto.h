@@ -25,7 +25,4 @@ char16_t Minuscula(char16_t letra);
 Texto Mayusculas(VistaTexto texto);
 Texto Minusculas(VistaTexto texto);
 
-/// Widens plain ASCII; used for literals that live as narrow text.
-Texto DesdeAscii(std::string_view texto);
-
 } // namespace pincela

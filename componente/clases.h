@@ -38,8 +38,6 @@ struct DatosClase {
     DWORD rasgosOle = 0;
     /// Size of a new control in pixels.
     SIZE tamanio = {};
-    /// False while the behaviour of the class is not part of the component: creation is refused.
-    bool disponible = false;
 };
 
 namespace detalle {
@@ -65,22 +63,19 @@ inline constexpr DatosClase DatosEfectos = {.nombre = L"Efectos",
                                             .interfaz =
                                                 "{5FF11382-A93D-4E56-90F0-0FC58C722298}"_guid,
                                             .eventos = {},
-                                            .genero = Genero::Creable,
-                                            .disponible = true};
+                                            .genero = Genero::Creable};
 inline constexpr DatosClase DatosProPColores = {.nombre = L"ProPColores",
                                                 .clase = detalle::PaginaColores,
                                                 .interfaz =
                                                     "{47644BA4-D5B0-4400-88FD-EA26DE35D27B}"_guid,
                                                 .eventos = {},
-                                                .genero = Genero::Pagina,
-                                                .disponible = true};
+                                                .genero = Genero::Pagina};
 inline constexpr DatosClase DatosProPGeneral = {.nombre = L"ProPGeneral",
                                                 .clase = detalle::PaginaGeneral,
                                                 .interfaz =
                                                     "{7B8005EF-A3D8-4CEE-9E6A-22E388E21B85}"_guid,
                                                 .eventos = {},
-                                                .genero = Genero::Pagina,
-                                                .disponible = true};
+                                                .genero = Genero::Pagina};
 inline constexpr DatosClase DatosTBoxML = {.nombre = L"TBoxML",
                                            .clase = "{6792BA99-ABA4-4CE8-BF28-75F23C455855}"_guid,
                                            .interfaz =
@@ -89,8 +84,7 @@ inline constexpr DatosClase DatosTBoxML = {.nombre = L"TBoxML",
                                            .genero = Genero::Control,
                                            .mapaDeBits = 30000,
                                            .rasgosOle = detalle::RasgosDeControl,
-                                           .tamanio = {160, 80},
-                                           .disponible = true};
+                                           .tamanio = {160, 80}};
 inline constexpr DatosClase DatosBotonazo = {
     .nombre = L"Botonazo",
     .clase = "{4F01CAAB-E98C-4DD8-A111-A79CD4A6F307}"_guid,
@@ -100,8 +94,7 @@ inline constexpr DatosClase DatosBotonazo = {
     .mapaDeBits = 30001,
     .paginas = detalle::PaginasDeBotonazo,
     .rasgosOle = detalle::RasgosDeControl | OLEMISC_ACTSLIKEBUTTON,
-    .tamanio = {100, 32},
-    .disponible = true};
+    .tamanio = {100, 32}};
 inline constexpr DatosClase DatosTboxSSML = {
     .nombre = L"TboxSSML",
     .clase = "{F55B6F57-726A-4AF0-BEF3-D52E41E1AE40}"_guid,
@@ -111,8 +104,7 @@ inline constexpr DatosClase DatosTboxSSML = {
     .mapaDeBits = 30002,
     .paginas = detalle::PaginasDeTexto,
     .rasgosOle = detalle::RasgosDeControl,
-    .tamanio = {160, 64},
-    .disponible = true};
+    .tamanio = {160, 64}};
 inline constexpr DatosClase DatosTbox = {.nombre = L"Tbox",
                                          .clase = "{0AEE3F22-BBD7-4E09-8F90-BDC5FA6F7A36}"_guid,
                                          .interfaz = "{BD7ECBDA-EED1-409E-BDF7-40E59320B6E6}"_guid,
@@ -121,8 +113,7 @@ inline constexpr DatosClase DatosTbox = {.nombre = L"Tbox",
                                          .mapaDeBits = 30003,
                                          .paginas = detalle::PaginasDeTexto,
                                          .rasgosOle = detalle::RasgosDeControl,
-                                         .tamanio = {160, 48},
-                                         .disponible = true};
+                                         .tamanio = {160, 48}};
 inline constexpr DatosClase DatosTboxSS = {.nombre = L"TboxSS",
                                            .clase = "{5BED868B-9421-4721-AC7B-336ABB6C8B50}"_guid,
                                            .interfaz =
@@ -132,8 +123,7 @@ inline constexpr DatosClase DatosTboxSS = {.nombre = L"TboxSS",
                                            .mapaDeBits = 30004,
                                            .paginas = detalle::PaginasDeTexto,
                                            .rasgosOle = detalle::RasgosDeControl,
-                                           .tamanio = {120, 24},
-                                           .disponible = true};
+                                           .tamanio = {120, 24}};
 inline constexpr DatosClase DatosArea = {.nombre = L"Area",
                                          .clase = "{E8ED987E-24A6-44AE-89AE-A75346F5939A}"_guid,
                                          .interfaz = "{5D6020B6-8386-4208-B342-2435CD642F99}"_guid,
@@ -143,15 +133,13 @@ inline constexpr DatosClase DatosArea = {.nombre = L"Area",
                                          .paginas = detalle::PaginasDeArea,
                                          .rasgosOle =
                                              detalle::RasgosDeControl | OLEMISC_SIMPLEFRAME,
-                                         .tamanio = {200, 120},
-                                         .disponible = true};
+                                         .tamanio = {200, 120}};
 inline constexpr DatosClase DatosProPColoresArea = {
     .nombre = L"ProPColoresArea",
     .clase = detalle::PaginaColoresArea,
     .interfaz = "{F141DBED-2568-4477-B574-B2E5F3B0AF12}"_guid,
     .eventos = {},
-    .genero = Genero::Pagina,
-    .disponible = true};
+    .genero = Genero::Pagina};
 
 /// Calls `f.template operator()<Tabla>(datos)` for each class in type-library order.
 template <class F>

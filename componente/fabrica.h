@@ -5,8 +5,7 @@
 
 namespace pincela::componente {
 
-/// Factory of a published class; CLASS_E_CLASSNOTAVAILABLE for any other and for a class whose
-/// behaviour is not part of the component.
+/// Factory of a published class; CLASS_E_CLASSNOTAVAILABLE for any other.
 HRESULT DarFabrica(REFCLSID clase, REFIID iid, void** salida);
 
 } // namespace pincela::componente

@@ -42,7 +42,6 @@ class PuntoDeConexion final : public IConnectionPoint {
         }
     }
 
-    bool Vacio() const { return conexiones_.empty(); }
     void Olvidar();
 
   private:

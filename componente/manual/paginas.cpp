@@ -134,10 +134,6 @@ template <class Tabla>
 std::string Clase(const DatosClase& datos) {
     const Presentacion presentacion = PresentacionDe(datos.nombre);
     std::string texto = Aviso + ("# " + Utf8(datos.nombre)) + "\n\n" + presentacion.texto + "\n\n";
-    if (!datos.disponible)
-        texto +=
-            "> En esta versión la clase está descrita en la biblioteca de tipos, pero todavía no "
-            "se puede crear.\n\n";
     if (presentacion.imagen)
         texto += "![" + Utf8(datos.nombre) + "](../../" + presentacion.imagen + ")\n\n";
     texto += Identidad(datos);

@@ -111,19 +111,6 @@ void Mirador::Rodar(int barra, WPARAM w) {
     }
 }
 
-void Mirador::Descubrir(const Caja& caja) {
-    RECT r{};
-    GetClientRect(ventana_, &r);
-    const int margen = Escala(Margen96);
-    const auto necesaria = [&](int ahora, int desde, int hasta, LONG cabe) {
-        const int lejos = hasta + 2 * margen - static_cast<int>(cabe);
-        return std::min(std::max(ahora, lejos), desde);
-    };
-    x_ = necesaria(x_, caja.izquierda, caja.derecha, r.right);
-    y_ = necesaria(y_, caja.arriba, caja.abajo, r.bottom);
-    Ajustar();
-}
-
 Caja Mirador::CajaDeLaForma() const {
     const SIZE medida = mesa_->Forma().Medida();
     const int x = Escala(Margen96) - x_, y = Escala(Margen96) - y_;

@@ -19,8 +19,6 @@ class Mirador {
     void Colocar(const RECT& lugar);
     /// The form has another size.
     void Ajustar();
-    /// Scrolls until a box of the form can be seen.
-    void Descubrir(const diseno::Caja& caja);
 
   private:
     static LRESULT CALLBACK Procesar(HWND ventana, UINT mensaje, WPARAM w, LPARAM l);

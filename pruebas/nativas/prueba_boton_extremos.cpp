@@ -202,8 +202,8 @@ TEST_CASE("a button without a window draws into its image and shapes nothing") {
 
 TEST_CASE("an error from the container's notification leaves the value stored") {
     auto p = Nuevo();
-    p->e.alCambiar = [](VistaTexto) { Lanzar(NumeroError::PropiedadDeSoloLectura); };
+    p->e.alCambiar = [](VistaTexto) { Lanzar(NumeroError::PermisoDenegado); };
     CHECK(ErrorDe([&] { p->b->PonExpandir(false); }) ==
-          static_cast<std::int32_t>(NumeroError::PropiedadDeSoloLectura));
+          static_cast<std::int32_t>(NumeroError::PermisoDenegado));
     CHECK_FALSE(p->b->Expandir());
 }

@@ -179,11 +179,11 @@ TEST_CASE("a mouse told to have left may come back at once") {
 
 TEST_CASE("an error from the container's notification leaves the value stored") {
     auto p = NuevaCaja<Tbox>();
-    p->e.alCambiar = [](VistaTexto) { Lanzar(NumeroError::PropiedadDeSoloLectura); };
-    const int soloLectura = static_cast<int>(NumeroError::PropiedadDeSoloLectura);
-    CHECK(ErrorDe([&] { p->c->PonText(u"a"); }) == soloLectura);
+    p->e.alCambiar = [](VistaTexto) { Lanzar(NumeroError::PermisoDenegado); };
+    const int denegado = static_cast<int>(NumeroError::PermisoDenegado);
+    CHECK(ErrorDe([&] { p->c->PonText(u"a"); }) == denegado);
     CHECK(p->c->Text() == u"a");
-    CHECK(ErrorDe([&] { p->c->PonTipoSombra(TSombra::Gris); }) == soloLectura);
+    CHECK(ErrorDe([&] { p->c->PonTipoSombra(TSombra::Gris); }) == denegado);
     CHECK(p->c->TipoSombra() == TSombra::Gris);
     // An assignment that failed is over: what is typed now is the user's.
     p->e.alCambiar = nullptr;

@@ -16,8 +16,8 @@ TEST_CASE("Every error number has a description of its own, in Spanish") {
     for (const auto numero :
          {NumeroError::LlamadaNoValida, NumeroError::Desbordamiento, NumeroError::SinMemoria,
           NumeroError::Subindice, NumeroError::DivisionPorCero, NumeroError::TiposNoCoinciden,
-          NumeroError::NuloNoValido, NumeroError::LlamadaInterna, NumeroError::ValorDePropiedad,
-          NumeroError::PropiedadDeSoloLectura}) {
+          NumeroError::PermisoDenegado, NumeroError::NuloNoValido, NumeroError::LlamadaInterna,
+          NumeroError::ValorDePropiedad}) {
         CHECK_FALSE(DescripcionDe(numero).empty());
         CHECK(vistas.insert(DescripcionDe(numero)).second);
     }

@@ -76,7 +76,3 @@ TEST_CASE("A whole text changes case without changing length") {
     CHECK(Minusculas(u"ÁREA Ω Ж") == u"área ω ж");
     CHECK(Mayusculas(u"").empty());
 }
-
-TEST_CASE("Plain ASCII widens letter by letter") {
-    CHECK(DesdeAscii("Izq_Sup") == u"Izq_Sup");
-}

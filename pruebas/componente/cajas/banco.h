@@ -8,8 +8,6 @@ namespace cajas {
 
 using namespace vivo;
 
-inline constexpr const wchar_t* Etiquetadas[] = {L"Pincela.Tbox", L"Pincela.TBoxML"};
-inline constexpr const wchar_t* Simples[] = {L"Pincela.TboxSS", L"Pincela.TboxSSML"};
 inline constexpr const wchar_t* Todas[] = {L"Pincela.Tbox", L"Pincela.TBoxML", L"Pincela.TboxSS",
                                            L"Pincela.TboxSSML"};
 

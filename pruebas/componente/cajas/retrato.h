@@ -41,8 +41,6 @@ struct CajaNueva : Caja {
     }
 };
 
-inline constexpr const wchar_t* Clases4[] = {L"Tbox", L"TBoxML", L"TboxSS", L"TboxSSML"};
-
 /// Every property as "Name = value".
 std::vector<std::string> RetratoDe(const Caja& caja);
 

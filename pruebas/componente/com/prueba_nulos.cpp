@@ -1,7 +1,7 @@
 // Null pointers handed to every class through every interface, where something was to be put or
 // read.
 #include "anfitrion/bolsa_memoria.h"
-#include "pruebas/componente/com/clases_disponibles.h"
+#include "pruebas/componente/com/cada_clase.h"
 
 #include <ocidl.h>
 #include <olectl.h>
@@ -204,7 +204,7 @@ TEST_CASE("No class takes a null pointer for a place to write to, through any in
     const SesionOle ole;
     const Modulo modulo;
     std::set<std::wstring> vistas;
-    ParaCadaClaseDisponible(modulo, [&](const Clase& una, IClassFactory* fabrica) {
+    ParaCadaClase(modulo, [&](const Clase& una, IClassFactory* fabrica) {
         const Puntero<IUnknown> objeto = Hecho(fabrica);
         vistas.insert(una.nombre);
         ComprobarIdentidad(objeto);

@@ -1,6 +1,6 @@
 // Out-pointers, enumerators and connections of every control.
 #include "anfitrion/opciones.h"
-#include "pruebas/componente/com/clases_disponibles.h"
+#include "pruebas/componente/com/cada_clase.h"
 
 #include <ocidl.h>
 #include <olectl.h>
@@ -16,7 +16,7 @@ template <class F>
 void ParaCadaControl(F f) {
     const SesionOle ole;
     const Modulo modulo;
-    ParaCadaClaseDisponible(modulo, [&](const Clase& una, IClassFactory* fabrica) {
+    ParaCadaClase(modulo, [&](const Clase& una, IClassFactory* fabrica) {
         if (una.genero == Genero::Control)
             f(una, Hecho(fabrica));
     });
@@ -165,7 +165,7 @@ TEST_CASE("Enumerators count, skip, start again and are copied") {
 TEST_CASE("Enumerators and connection points keep their control alive") {
     const SesionOle ole;
     const Modulo modulo;
-    ParaCadaClaseDisponible(modulo, [&](const Clase& una, IClassFactory* fabrica) {
+    ParaCadaClase(modulo, [&](const Clase& una, IClassFactory* fabrica) {
         if (una.genero != Genero::Control)
             return;
         Puntero<IUnknown> control = Hecho(fabrica);

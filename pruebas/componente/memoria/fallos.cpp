@@ -196,10 +196,6 @@ bool Fallos::Desarmar() {
     return El().negados > 0;
 }
 
-int Fallos::Pedidos() {
-    return El().pedidos;
-}
-
 long Fallos::BloquesVivos() {
     return static_cast<long>(El().vivos.size());
 }

@@ -27,8 +27,6 @@ class Fallos {
     static void Armar(Escasez que, int cual, bool todos = false);
     /// Ends that; true when a request was refused.
     static bool Desarmar();
-    /// Requests since Armar.
-    static int Pedidos();
     /// Blocks of the heap that the module asked for and hasn't given back.
     static long BloquesVivos();
     /// Runs what the module's timers without a window would run now.
