@@ -14,15 +14,20 @@
 
 namespace pincela {
 
-/// Separators of the user's locale, used between text and number.
+/// What the user's locale says of numbers in a text.
 struct Regional {
     char16_t decimal = u'.';
     char16_t miles = u',';
+    /// Sign of the currency, closed with a zero; a number may bear it.
+    char16_t moneda[8] = u"$";
 };
 
-/// The locale in force. The host sets it when it starts and when the user changes it.
+using LectorRegional = Regional (*)();
+
+/// The locale in force, asked of the host anew each time: the user may have changed it meanwhile.
 Regional RegionalActual();
-void PonRegional(Regional regional);
+/// Whom to ask. The host sets it once, before anything is converted; until then a point is decimal.
+void PonLectorRegional(LectorRegional lector);
 
 /// Nearest whole number, ties to even, still as a double.
 double RedondearAPar(double valor);
@@ -50,10 +55,12 @@ std::int16_t Entero16(std::int64_t valor);
 std::int32_t Entero32(std::int64_t valor);
 std::uint8_t Byte(std::int64_t valor);
 
-// Text to number: surrounding blanks are ignored, "&H" and "&O" are accepted, the decimal and
-// thousands separators are those of the locale in force, an exponent is accepted. Thousands
-// separators are skipped wherever they stand after the first digit.
+// Text to number: surrounding blanks are ignored, "&H" and "&O" are accepted, the separators and
+// the sign of the currency are those of the locale in force, an exponent is accepted. Thousands
+// separators are skipped wherever they stand after the first digit. Whole numbers are rounded by
+// all the digits that are written, however many.
 double TextoADoble(VistaTexto texto);
+std::uint8_t TextoAByte(VistaTexto texto);
 /// "&HFFFF" is 65535 here, as the platform's own conversion to 32 bits has it; only eight digits
 /// reach the negative numbers.
 std::int32_t TextoAEntero32(VistaTexto texto);
@@ -79,9 +86,8 @@ float AFlotante(const Variante& valor);
 double ADoble(const Variante& valor);
 /// Booleans become "True" and "False".
 Texto ATexto(const Variante& valor);
-inline Color AColor(const Variante& valor) {
-    return Color(AEntero32(valor));
-}
+/// From -2147483648 to 4294967295: a system colour may come as the positive number of its pattern.
+Color AColor(const Variante& valor);
 
 /// A reference of the wanted class, empty for Nothing; anything else is a type mismatch.
 template <class T>

@@ -20,8 +20,6 @@ Texto DescripcionDe(NumeroError numero) {
         return u"Permiso denegado";
     case NumeroError::NuloNoValido:
         return u"Uso no válido de Null";
-    case NumeroError::LlamadaInterna:
-        return u"No se puede llamar desde fuera a un miembro interno de la biblioteca";
     case NumeroError::ValorDePropiedad:
         return u"El valor de la propiedad no es válido";
     }

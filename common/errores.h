@@ -17,7 +17,6 @@ enum class NumeroError : std::int32_t {
     TiposNoCoinciden = 13,
     PermisoDenegado = 70,
     NuloNoValido = 94,
-    LlamadaInterna = 97,
     ValorDePropiedad = 380,
 };
 

@@ -1,9 +1,10 @@
 // Numbers read from text.
 //
 // The grammar is the automation environment's: blanks around; one sign before or after, or
-// parentheses for a negative number; digits with thousands separators, which are ignored wherever
-// they stand after the first digit; the decimal separator; an exponent after E or D; or "&H", "&O"
-// and digits of that base, "&" allowed after them. No currency sign.
+// parentheses for a negative number; the sign of the currency before or after; digits with
+// thousands separators, which are ignored wherever they stand after the first digit; the decimal
+// separator; an exponent after E or D; or "&H", "&O" and digits of that base, "&" allowed after
+// them.
 #include "common/conversion.h"
 #include "common/decimal_exacto.h"
 #include "common/entero_corto.h"
@@ -13,6 +14,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 
 namespace pincela {
 namespace {
@@ -47,6 +49,12 @@ class Lector {
         if (resto_.empty() || resto_.front() != letra)
             return false;
         Avanzar();
+        return true;
+    }
+    bool Tomar(VistaTexto palabra) {
+        if (palabra.empty() || !resto_.starts_with(palabra))
+            return false;
+        resto_.remove_prefix(palabra.size());
         return true;
     }
     void SaltarBlancos() {
@@ -94,6 +102,8 @@ class Decimales {
     bool Leer(Lector& lector, Regional regional, bool soloExponenteCompleto);
     /// Raises Desbordamiento beyond the range of a double; too small a number is 0.
     double Valor() const;
+    /// Nearest whole number, ties to even. Raises Desbordamiento beyond ten digits.
+    std::int64_t Entero() const;
 
   private:
     void Anotar(char16_t digito, bool fraccion);
@@ -163,52 +173,86 @@ double Decimales::Valor() const {
     return valor;
 }
 
+std::int64_t Decimales::Entero() const {
+    constexpr long cabenSiempre = 10;
+    const long largo = static_cast<long>(digitos_.size());
+    const long enteros = largo + exponente_ - decimales_; // digits before the decimal separator
+    if (digitos_.empty() || enteros < 0)
+        return 0;
+    if (enteros > cabenSiempre)
+        Lanzar(NumeroError::Desbordamiento);
+    std::int64_t valor = 0;
+    for (long i = 0; i < enteros; ++i)
+        valor = valor * 10 + (i < largo ? digitos_[static_cast<std::size_t>(i)] - '0' : 0);
+    const auto fraccion =
+        std::string_view(digitos_).substr(static_cast<std::size_t>(std::min(enteros, largo)));
+    if (fraccion.empty() || fraccion.front() < '5')
+        return valor;
+    const bool medio =
+        fraccion.front() == '5' && fraccion.find_first_not_of('0', 1) == std::string_view::npos;
+    return medio && valor % 2 == 0 ? valor : valor + 1;
+}
+
 /// What a whole text says, before it is fitted into a type.
 struct Leido {
     bool enBase = false; // came from "&H" or "&O"
     bool negativo = false;
     Patron patron;
-    double valor = 0;
+    Decimales decimales;
 };
 
 Leido Leer(VistaTexto texto) {
+    const Regional regional = RegionalActual();
     Lector lector(texto);
+    bool moneda = false;
+    const auto tomarMoneda = [&] {
+        if (moneda)
+            return false;
+        moneda = lector.Tomar(VistaTexto(regional.moneda));
+        return moneda;
+    };
+    bool parentesis = false, menos = false, mas = false;
+    const auto tomarSigno = [&] {
+        if (parentesis || menos || mas)
+            return false;
+        menos = lector.Tomar(u'-');
+        mas = !menos && lector.Tomar(u'+');
+        return menos || mas;
+    };
+
     lector.SaltarBlancos();
-    const bool parentesis = lector.Tomar(u'(');
-    const bool menos = !parentesis && lector.Tomar(u'-');
-    const bool mas = !parentesis && !menos && lector.Tomar(u'+');
-    lector.SaltarBlancos();
+    parentesis = lector.Tomar(u'(');
+    for (lector.SaltarBlancos(); tomarSigno() || tomarMoneda(); lector.SaltarBlancos()) {
+    }
 
     Leido leido;
     if (lector.Tomar(u'&')) {
         leido.enBase = true;
         leido.patron = LeerPatron(lector);
-    } else {
-        Decimales decimales;
-        if (!decimales.Leer(lector, RegionalActual(), false))
-            LanzarTiposNoCoinciden();
-        leido.valor = decimales.Valor();
+    } else if (!leido.decimales.Leer(lector, regional, false)) {
+        LanzarTiposNoCoinciden();
     }
 
-    lector.SaltarBlancos();
-    bool menosDetras = false;
-    if (parentesis) {
-        if (!lector.Tomar(u')'))
-            LanzarTiposNoCoinciden();
-    } else if (!menos && !mas) {
-        menosDetras = lector.Tomar(u'-');
-        if (!menosDetras)
-            lector.Tomar(u'+');
+    for (lector.SaltarBlancos(); tomarSigno() || tomarMoneda(); lector.SaltarBlancos()) {
     }
+    if (parentesis && !lector.Tomar(u')'))
+        LanzarTiposNoCoinciden();
     lector.SaltarBlancos();
     if (!lector.Agotado())
         LanzarTiposNoCoinciden();
-    leido.negativo = parentesis || menos || menosDetras;
+    leido.negativo = parentesis || menos;
     return leido;
 }
 
 double ConSigno(const Leido& leido) {
-    const double valor = leido.enBase ? static_cast<std::int32_t>(leido.patron.bits) : leido.valor;
+    const double valor =
+        leido.enBase ? static_cast<std::int32_t>(leido.patron.bits) : leido.decimales.Valor();
+    return leido.negativo ? -valor : valor;
+}
+
+std::int64_t EnteroConSigno(const Leido& leido) {
+    const std::int64_t valor =
+        leido.enBase ? static_cast<std::int32_t>(leido.patron.bits) : leido.decimales.Entero();
     return leido.negativo ? -valor : valor;
 }
 
@@ -225,18 +269,22 @@ double TextoADoble(VistaTexto texto) {
     return ConSigno(Leer(texto));
 }
 
+std::uint8_t TextoAByte(VistaTexto texto) {
+    return Byte(EnteroConSigno(Leer(texto)));
+}
+
 std::int32_t TextoAEntero32(VistaTexto texto) {
     std::int32_t corto = 0;
     if (const std::size_t largo = LeerEnteroCorto(texto, corto);
         largo != 0 && largo == texto.size())
         return corto;
-    return AEntero32(TextoADoble(texto));
+    return Entero32(EnteroConSigno(Leer(texto)));
 }
 
 std::int16_t TextoAEntero16(VistaTexto texto) {
     const Leido leido = Leer(texto);
     if (!leido.enBase || leido.patron.largo || leido.patron.bits > 0xFFFF)
-        return AEntero16(ConSigno(leido));
+        return Entero16(EnteroConSigno(leido));
     const int valor = static_cast<std::int16_t>(leido.patron.bits);
     return Entero16(leido.negativo ? -valor : valor);
 }

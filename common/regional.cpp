@@ -3,16 +3,16 @@
 namespace pincela {
 namespace {
 
-// One for the whole component, which lives on one thread.
-Regional regional;
+// Nothing that is read is kept: threads have nothing to share, and nobody has to tell of changes.
+LectorRegional lectorRegional = [] { return Regional(); };
 
 } // namespace
 
 Regional RegionalActual() {
-    return regional;
+    return lectorRegional();
 }
-void PonRegional(Regional nueva) {
-    regional = nueva;
+void PonLectorRegional(LectorRegional lector) {
+    lectorRegional = lector;
 }
 
 } // namespace pincela

@@ -2,6 +2,7 @@
 #include "common/conversion.h"
 #include "common/errores.h"
 
+#include <limits>
 #include <type_traits>
 
 namespace pincela {
@@ -57,8 +58,7 @@ std::uint8_t AByte(const Variante& valor) {
     if (const bool* logico = std::get_if<bool>(&valor))
         return *logico ? 255 : 0;
     return Convertir<std::uint8_t>(
-        valor, [](double v) { return AByte(v); },
-        [](VistaTexto texto) { return AByte(TextoADoble(texto)); });
+        valor, [](double v) { return AByte(v); }, TextoAByte);
 }
 
 std::int16_t AEntero16(const Variante& valor) {
@@ -69,6 +69,14 @@ std::int16_t AEntero16(const Variante& valor) {
 std::int32_t AEntero32(const Variante& valor) {
     return Convertir<std::int32_t>(
         valor, [](double v) { return AEntero32(v); }, TextoAEntero32);
+}
+
+Color AColor(const Variante& valor) {
+    const double numero = RedondearAPar(ADoble(valor));
+    if (numero > std::numeric_limits<std::int32_t>::max() &&
+        numero <= std::numeric_limits<std::uint32_t>::max())
+        return Color(static_cast<std::uint32_t>(numero));
+    return Color(AEntero32(valor));
 }
 
 float AFlotante(const Variante& valor) {

@@ -1,6 +1,7 @@
 #include "componente/modulo.h"
 
 #include "componente/fabrica.h"
+#include "plataforma/windows/regional.h"
 
 #include <atomic>
 #include <string>
@@ -82,6 +83,7 @@ BOOL WINAPI DllMain(HINSTANCE instancia, DWORD motivo, void*) {
     if (motivo == DLL_PROCESS_ATTACH) {
         pincela::componente::modulo = instancia;
         DisableThreadLibraryCalls(instancia);
+        pincela::PonLectorRegional(pincela::windows::LeerRegional);
     }
     return TRUE;
 }

@@ -111,8 +111,6 @@ HRESULT ObjetoControl::OnAmbientPropertyChange(DISPID dispid) {
             porDefecto_ = -1;
         if (es(DISPID_AMBIENT_USERMODE))
             modoUsuario_ = -1;
-        if (es(DISPID_AMBIENT_LOCALEID))
-            windows::LeerRegional();
         if (vida_ != Vida::Viva)
             return S_OK;
         if (es(DISPID_AMBIENT_FONT))

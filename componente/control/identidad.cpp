@@ -14,7 +14,6 @@ ObjetoControl::ObjetoControl(const ClasePublicada& clase, HacedorDeNucleo hacer)
     : clase_(clase), entorno_(static_cast<windows::SitioControl&>(*this)),
       eventos_(Identidad(), this, clase.datos->eventos),
       notificaciones_(Identidad(), this, IID_IPropertyNotifySink) {
-    windows::LeerRegional();
     PonPppDe(nullptr);
     entorno_.PonTamano(clase.datos->tamanio, false);
     extension_ = AHimetric(clase.datos->tamanio);

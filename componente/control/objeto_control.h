@@ -13,7 +13,6 @@
 #include "componente/objeto.h"
 #include "plataforma/control.h"
 #include "plataforma/windows/entorno_windows.h"
-#include "plataforma/windows/regional.h"
 
 #include <ocidl.h>
 #include <olectl.h>

@@ -1,6 +1,7 @@
 #include "plataforma/windows/regional.h"
 
-#include "common/conversion.h"
+#include <algorithm>
+#include <iterator>
 
 #include <windows.h>
 
@@ -16,10 +17,14 @@ char16_t Separador(LCTYPE cual, char16_t usual) {
 
 } // namespace
 
-void LeerRegional() {
-    const Regional usual;
-    PonRegional(
-        {Separador(LOCALE_SDECIMAL, usual.decimal), Separador(LOCALE_STHOUSAND, usual.miles)});
+Regional LeerRegional() {
+    Regional regional;
+    regional.decimal = Separador(LOCALE_SDECIMAL, regional.decimal);
+    regional.miles = Separador(LOCALE_STHOUSAND, regional.miles);
+    wchar_t moneda[std::size(regional.moneda)];
+    if (::GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SCURRENCY, moneda, std::size(moneda)))
+        std::copy(std::begin(moneda), std::end(moneda), regional.moneda);
+    return regional;
 }
 
 } // namespace pincela::windows

@@ -1,10 +1,12 @@
 // The separators of the user's locale.
 #pragma once
 
+#include "common/conversion.h"
+
 namespace pincela::windows {
 
-/// Reads the user's decimal and thousands separators and puts them in force for conversions.
-/// Called at start and whenever the platform tells that the settings changed.
-void LeerRegional();
+/// The user's decimal and thousands separators as they are now. The platform answers out of its own
+/// memory, which follows the settings: some hundredths of a microsecond.
+Regional LeerRegional();
 
 } // namespace pincela::windows

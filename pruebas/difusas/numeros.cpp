@@ -2,6 +2,7 @@
 #include "common/conversion.h"
 #include "common/errores.h"
 #include "pruebas/difusas/difusa.h"
+#include "pruebas/nativas/con_regional.h"
 
 #include <cmath>
 
@@ -48,7 +49,7 @@ void LeerDeTodosModos(const Texto& texto) {
 int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
     const Texto texto = TextoDe(datos, largo);
     for (const Regional regional : {Regional{u'.', u','}, Regional{u',', u'.'}}) {
-        PonRegional(regional);
+        const pruebas::ConRegional con(regional);
         LeerDeTodosModos(texto);
     }
     return 0;

@@ -3,16 +3,23 @@
 
 #include "common/conversion.h"
 
+#include <utility>
+
 namespace pincela::pruebas {
 
 /// Separators in force while it lives.
-struct ConRegional {
-    explicit ConRegional(Regional regional) { PonRegional(regional); }
+class ConRegional {
+  public:
+    explicit ConRegional(Regional regional) : antes_(std::exchange(enVigor, regional)) {
+        PonLectorRegional([] { return enVigor; });
+    }
     ConRegional(const ConRegional&) = delete;
     ConRegional& operator=(const ConRegional&) = delete;
-    ~ConRegional() { PonRegional(antes); }
+    ~ConRegional() { enVigor = antes_; }
 
-    Regional antes = RegionalActual();
+  private:
+    static inline Regional enVigor;
+    Regional antes_;
 };
 
 } // namespace pincela::pruebas

@@ -1,11 +1,13 @@
 #include "common/conversion.h"
 #include "comprobar_error.h"
+#include "con_regional.h"
 #include "pruebas/cada.h"
 
 #include <cfloat>
 #include <climits>
 
 using namespace pincela;
+using namespace pincela::pruebas;
 
 TEST_CASE("A whole number is written plainly") {
     CHECK(EnteroATexto(0) == u"0");
@@ -58,12 +60,10 @@ TEST_CASE("A double is written with fifteen digits") {
 }
 
 TEST_CASE("The decimal separator is that of the locale in force") {
-    const Regional antes = RegionalActual();
-    PonRegional({u',', u'.'});
+    const ConRegional espaniol(Regional{u',', u'.'});
     CHECK(FlotanteATexto(0.5f) == u"0,5");
     CHECK(FlotanteATexto(12345678.0f) == u"1,234568E+07");
     CHECK(FlotanteATexto(1234.5f) == u"1234,5");
-    PonRegional(antes);
 }
 
 TEST_CASE("A float written and read again is the float of those digits") {

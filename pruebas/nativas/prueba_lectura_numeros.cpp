@@ -55,6 +55,17 @@ TEST_CASE("A text becomes the whole number it says") {
         {u"25E-1", 2},
         {u"1e-400", 0},
         {u"0e999999999999", 0},
+        {u"2.5000000000000001", 3},
+        {u"-0.50000000000000000000000000000001", -1},
+        {u"3.4999999999999999999", 3},
+        {u"0.05e1", 0},
+        {u"0.15e1", 2},
+        {u"2147483647.49999999999999999999", INT_MAX},
+        {u"$2", 2},
+        {u"2 $", 2},
+        {u" -$ 2", -2},
+        {u"$-2", -2},
+        {u"($2)", -2},
     });
     CAPTURE(texto);
     CHECK(TextoAEntero32(texto) == valor);
@@ -125,7 +136,9 @@ TEST_CASE("A text that says no number does not match the type") {
                                                        u"&H 1",
                                                        u"0x10",
                                                        u"True",
-                                                       u"$5",
+                                                       u"$",
+                                                       u"$$5",
+                                                       u"$5$",
                                                        u"5 €",
                                                        u"1*2",
                                                        u"&H1.",
@@ -152,6 +165,24 @@ TEST_CASE("A text beyond 32 bits overflows") {
          u"&H100000000", u"&HFFFFFFFFFFFFFFFFFFFFFFFF", u"1e400", u"-1e99999999999999999999"});
     CAPTURE(texto);
     CHECK(ErrorDe([&] { TextoAEntero32(texto); }) == kDesbordamiento);
+}
+
+TEST_CASE("A text is rounded by all its digits into every width") {
+    CHECK(TextoAByte(u"254.50000000000000000001") == 255);
+    CHECK(TextoAByte(u"254.5") == 254);
+    CHECK(TextoAByte(u"&HFF") == 255);
+    CHECK(TextoAEntero16(u"-2.5000000000000001") == -3);
+    CHECK(ErrorDe([] { TextoAByte(u"255.5"); }) == kDesbordamiento);
+    CHECK(ErrorDe([] { TextoAByte(u"-1"); }) == kDesbordamiento);
+    CHECK(ErrorDe([] { TextoAEntero16(u"32767.500"); }) == kDesbordamiento);
+}
+
+TEST_CASE("The sign of the currency is that of the locale in force") {
+    const ConRegional espaniol(Regional{u',', u'.', u"\u20AC"});
+    CHECK(TextoADoble(u"2,5 \u20AC") == 2.5);
+    CHECK(ErrorDe([] { TextoADoble(u"$2"); }) == kTipos);
+    const ConRegional ninguna(Regional{u',', u'.', u""});
+    CHECK(TextoADoble(u"2,5") == 2.5);
 }
 
 TEST_CASE("A text beyond 16 bits overflows a 16-bit number") {

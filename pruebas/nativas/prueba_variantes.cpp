@@ -71,6 +71,20 @@ TEST_CASE("Numbers convert across types, rounded and checked") {
     CHECK(AColor(0.0) == Negro);
 }
 
+TEST_CASE("A colour is any pattern of 32 bits, written with a sign or without") {
+    const auto patron = [](std::uint32_t bits) { return Color(bits); };
+    CHECK(AColor(2147483663.0) == CaraDeBoton);
+    CHECK(AColor(-2147483633.0) == CaraDeBoton);
+    CHECK(AColor(Texto(u"2147483663")) == CaraDeBoton);
+    CHECK(AColor(Texto(u"&H8000000F")) == CaraDeBoton);
+    CHECK(AColor(4294967295.0) == SinColor);
+    CHECK(AColor(2147483647.5) == patron(0x80000000));
+    CHECK(ErrorDe([] { AColor(4294967295.5); }) == kDesbordamiento);
+    CHECK(ErrorDe([] { AColor(-2147483649.0); }) == kDesbordamiento);
+    CHECK(ErrorDe([] { AColor(std::nan("")); }) == kDesbordamiento);
+    CHECK(ErrorDe([] { AColor(Texto(u"azul")); }) == kTipos);
+}
+
 TEST_CASE("Texts convert by what they say") {
     CHECK(AByte(Texto(u"255")) == 255);
     CHECK(AByte(Texto(u"&HFF")) == 255);
