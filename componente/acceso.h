@@ -25,7 +25,7 @@ class Acceso {
     /// Reads `tamanio` bytes, aligned or not.
     virtual void Poner(ControlUsuario& control, const void* valor) const = 0;
     /// Converts by the automation rules; `convertido` tells when that is over.
-    virtual void PonerTardio(ControlUsuario& control, const Variante& valor,
+    virtual void PonerTardio(ControlUsuario& control, const VARIANT& valor,
                              bool& convertido) const = 0;
 
   protected:
@@ -54,9 +54,9 @@ class AccesoDe final : public Acceso {
         std::memcpy(&externo, valor, sizeof externo);
         (control.*poner_)(Abi<T>::Entrar(externo));
     }
-    void PonerTardio(ControlUsuario& control, const Variante& valor,
+    void PonerTardio(ControlUsuario& control, const VARIANT& valor,
                      bool& convertido) const override {
-        T propio = Abi<T>::DeVariante(valor);
+        T propio = Abi<T>::DeVariant(valor);
         convertido = true;
         (control.*poner_)(std::move(propio));
     }

@@ -109,25 +109,24 @@ C& NucleoDe(InterfazDual* yo) {
         return *static_cast<C*>(yo->nucleo);
 }
 
-/// Value of a late-bound argument; `argumentos.equivocado` names it while it converts.
+/// The argument that was given, or in `defecto` what it is worth left out; `argumentos.equivocado`
+/// names it from here on. Raises FalloCom for one that may not be left out.
+const VARIANT& ArgumentoDado(ArgumentosTardios& argumentos, unsigned i, const Parametro& parametro,
+                             VARIANT& defecto);
+
 template <class P>
 auto TomarArgumento(ArgumentosTardios& argumentos, unsigned i, const Parametro& parametro) {
-    using T = std::remove_cvref_t<P>;
-    argumentos.equivocado = argumentos.lugares[i];
-    Variante valor = argumentos.valores[i] ? DesdeVariant(*argumentos.valores[i]) : Falta{};
-    if (std::holds_alternative<Falta>(valor) && parametro.opcional)
-        valor = parametro.tipoDefecto == VT_BOOL ? Variante{parametro.defecto != 0}
-                                                 : Variante{std::int32_t{parametro.defecto}};
-    return Abi<T>::DeVariante(valor);
+    VARIANT defecto;
+    return Abi<std::remove_cvref_t<P>>::DeVariant(ArgumentoDado(argumentos, i, parametro, defecto));
 }
 
 /// A record comes by reference inside its variant.
 template <>
 inline auto TomarArgumento<const tRectRedo&>(ArgumentosTardios& argumentos, unsigned i,
-                                             const Parametro&) {
-    argumentos.equivocado = argumentos.lugares[i];
-    const VARIANT* v = argumentos.valores[i];
-    if (v && V_VT(v) == (VT_BYREF | VT_VARIANT))
+                                             const Parametro& parametro) {
+    VARIANT defecto;
+    const VARIANT* v = &ArgumentoDado(argumentos, i, parametro, defecto);
+    if (V_VT(v) == (VT_BYREF | VT_VARIANT))
         v = V_VARIANTREF(v);
     // An array of records keeps something else where a record keeps its description.
     const bool esRegistro = v && (V_VT(v) & ~VT_BYREF) == VT_RECORD && V_RECORDINFO(v);
@@ -154,40 +153,55 @@ HRESULT STDMETHODCALLTYPE Poner(InterfazDual* yo, Argumento valor) {
     return PonerPropiedad(yo, Miembro, &valor);
 }
 
-// Functions of one method.
-template <class Nucleo, class M, class Argumentos = typename FirmaDe<M::Funcion>::Argumentos>
+// Functions of method `I` of a table.
+template <class Tabla, std::size_t I,
+          class Argumentos = typename FirmaDe<
+              std::remove_cvref_t<decltype(std::get<I>(Tabla::miembros))>::Funcion>::Argumentos>
 struct FuncionesDeMetodo;
 
-template <class Nucleo, class M, class... P>
-struct FuncionesDeMetodo<Nucleo, M, std::tuple<P...>> {
+template <class Tabla, std::size_t Cual, class... P>
+struct FuncionesDeMetodo<Tabla, Cual, std::tuple<P...>> {
+    using Nucleo = typename Tabla::Nucleo;
+    using M = std::remove_cvref_t<decltype(std::get<Cual>(Tabla::miembros))>;
     using Resultado = typename FirmaDe<M::Funcion>::Resultado;
+    static constexpr const auto& parametros = std::get<Cual>(Tabla::miembros).parametros;
+
+    static bool FaltaAlguno(ParametroAbi<P>... p) {
+        return [&]<std::size_t... I>(std::index_sequence<I...>) {
+            return (EsPunteroNulo<P>(p, parametros[I]) || ...);
+        }
+        (std::index_sequence_for<P...>{});
+    }
+
+    static Resultado Hacer(InterfazDual* yo, ParametroAbi<P>... p) {
+        return [&]<std::size_t... I>(std::index_sequence<I...>) {
+            return (NucleoDe<Nucleo>(yo).*M::Funcion)(EntrarParametro<P>(p, parametros[I])...);
+        }
+        (std::index_sequence_for<P...>{});
+    }
 
     static HRESULT STDMETHODCALLTYPE LlamarSinResultado(InterfazDual* yo, ParametroAbi<P>... p) {
-        if ((EsPunteroNulo<P>(p) || ...))
-            return E_POINTER;
-        return Entrar(yo, [&] { (NucleoDe<Nucleo>(yo).*M::Funcion)(EntrarParametro<P>(p)...); });
+        if (FaltaAlguno(p...))
+            return SinErrorInfo(E_POINTER);
+        return Entrar(yo, [&] { Hacer(yo, p...); });
     }
 
     template <class R>
     static HRESULT STDMETHODCALLTYPE Llamar(InterfazDual* yo, ParametroAbi<P>... p,
                                             typename Abi<R>::Tipo* salida) {
         if (!salida)
-            return E_POINTER;
+            return SinErrorInfo(E_POINTER);
         *salida = typename Abi<R>::Tipo{};
-        if ((EsPunteroNulo<P>(p) || ...))
-            return E_POINTER;
-        return Entrar(yo, [&] {
-            *salida = Abi<R>::Salir((NucleoDe<Nucleo>(yo).*M::Funcion)(EntrarParametro<P>(p)...));
-        });
+        if (FaltaAlguno(p...))
+            return SinErrorInfo(E_POINTER);
+        return Entrar(yo, [&] { *salida = Abi<R>::Salir(Hacer(yo, p...)); });
     }
 
-    template <class Descripcion>
-    static HRESULT TardiaDe(const Descripcion& m, InterfazDual& yo, ArgumentosTardios& argumentos,
-                            VARIANT* resultado) {
+    static HRESULT Tardia(InterfazDual& yo, ArgumentosTardios& argumentos, VARIANT* resultado) {
         return [&]<std::size_t... I>(std::index_sequence<I...>) {
             // Braces convert the arguments in order, whatever the order of a call would be.
-            std::tuple<decltype(TomarArgumento<P>(argumentos, I, m.parametros[I]))...> valores{
-                TomarArgumento<P>(argumentos, static_cast<unsigned>(I), m.parametros[I])...};
+            std::tuple<decltype(TomarArgumento<P>(argumentos, I, parametros[I]))...> valores{
+                TomarArgumento<P>(argumentos, static_cast<unsigned>(I), parametros[I])...};
             argumentos.convertidos = true;
             auto& nucleo = NucleoDe<Nucleo>(&yo);
             if constexpr (std::is_void_v<Resultado>) {
@@ -200,16 +214,9 @@ struct FuncionesDeMetodo<Nucleo, M, std::tuple<P...>> {
             }
             return S_OK;
         }
-        (std::make_index_sequence<sizeof...(P)>{});
+        (std::index_sequence_for<P...>{});
     }
 };
-
-template <class Tabla, std::size_t I>
-HRESULT TardiaDeMetodo(InterfazDual& yo, ArgumentosTardios& argumentos, VARIANT* resultado) {
-    constexpr auto& m = std::get<I>(Tabla::miembros);
-    using M = std::remove_cvref_t<decltype(m)>;
-    return FuncionesDeMetodo<typename Tabla::Nucleo, M>::TardiaDe(m, yo, argumentos, resultado);
-}
 
 /// Function of the virtual table for member `I`: what reads or calls it, or what assigns it.
 template <class Tabla, std::size_t I, bool EsPoner>
@@ -221,7 +228,7 @@ constexpr auto FuncionDe() {
     } else if constexpr (M::TieneValor) {
         return &Leer<I>;
     } else {
-        using F = FuncionesDeMetodo<typename Tabla::Nucleo, M>;
+        using F = FuncionesDeMetodo<Tabla, I>;
         if constexpr (std::is_void_v<typename F::Resultado>)
             return &F::LlamarSinResultado;
         else
@@ -294,7 +301,7 @@ constexpr MiembroTardio DescribirTardio() {
                 std::uint8_t{M::Aridad},
                 m.parametros.data(),
                 nullptr,
-                &TardiaDeMetodo<Tabla, I>};
+                &FuncionesDeMetodo<Tabla, I>::Tardia};
     }
 }
 

@@ -7,7 +7,13 @@
 
 namespace pincela::componente {
 
+HRESULT SinErrorInfo(HRESULT estado) noexcept {
+    SetErrorInfo(0, nullptr);
+    return estado;
+}
+
 void DejarErrorInfo(REFIID interfaz, const wchar_t* clase, NumeroError numero) noexcept {
+    SetErrorInfo(0, nullptr);
     try {
         Ptr<ICreateErrorInfo> creador;
         if (FAILED(CreateErrorInfo(creador.Recibir())))
@@ -31,11 +37,11 @@ HRESULT EstadoDeLaExcepcion(REFIID interfaz, const wchar_t* clase) noexcept {
         DejarErrorInfo(interfaz, clase, error.Numero());
         return EstadoDe(error.Numero());
     } catch (const FalloCom& fallo) {
-        return fallo.estado;
+        return SinErrorInfo(fallo.estado);
     } catch (const std::bad_alloc&) {
-        return E_OUTOFMEMORY;
+        return SinErrorInfo(E_OUTOFMEMORY);
     } catch (...) {
-        return E_UNEXPECTED;
+        return SinErrorInfo(E_UNEXPECTED);
     }
 }
 

@@ -22,8 +22,13 @@ inline void Exigir(HRESULT estado) {
         throw FalloCom{estado};
 }
 
+/// Status of a failure that has nothing to tell beside it: the thread's error information, which is
+/// somebody else's by now, must not be taken for ours.
+HRESULT SinErrorInfo(HRESULT estado) noexcept;
+
 /// Called inside a catch block: status of the exception in flight, with its error information left
-/// for the caller. `interfaz` is the interface that fails, `clase` the name shown as source.
+/// for the caller, or none. `interfaz` is the interface that fails, `clase` the name shown as
+/// source.
 HRESULT EstadoDeLaExcepcion(REFIID interfaz, const wchar_t* clase) noexcept;
 
 /// Fills error information for a run-time error without raising it.

@@ -1,8 +1,13 @@
 #include "componente/variantes.h"
 
+#include "componente/control/tardio.h"
+#include "componente/errores_com.h"
 #include "plataforma/windows/objetos_windows.h"
 
+#include <cmath>
+#include <limits>
 #include <new>
+#include <utility>
 
 #include <ocidl.h>
 
@@ -61,23 +66,138 @@ Variante PorConversion(const VARIANT& v, VARTYPE hacia) {
     return DesdeVariant(otro);
 }
 
+/// The value behind a reference; `copia` keeps what had to be copied.
+const VARIANT& Directo(const VARIANT& v, VarianteCom& copia) {
+    constexpr VARTYPE AVariant = VT_BYREF | VT_VARIANT;
+    const VARIANT* directo = V_VT(&v) == AVariant && V_VARIANTREF(&v) ? V_VARIANTREF(&v) : &v;
+    if (!V_ISBYREF(directo))
+        return *directo;
+    // One level only, as the environment defines it: a loop of references can't be built.
+    if (V_VT(directo) == AVariant || !V_BYREF(directo) ||
+        FAILED(VariantCopyInd(copia.Recibir(), const_cast<VARIANT*>(directo))) || V_ISBYREF(&copia))
+        Lanzar(NumeroError::TiposNoCoinciden);
+    return copia;
+}
+
+bool NoEsNumero(const VARIANT& v) {
+    return V_VT(&v) == VT_R4 ? std::isnan(V_R4(&v))
+                             : (V_VT(&v) == VT_R8 || V_VT(&v) == VT_DATE) && std::isnan(V_R8(&v));
+}
+
+HRESULT CambiarTipo(const VARIANT& v, VARTYPE tipo, VARIANT* otro) {
+    return VariantChangeTypeEx(otro, const_cast<VARIANT*>(&v), LOCALE_USER_DEFAULT, 0, tipo);
+}
+
+/// The runtime's conversion, and its documented overflow where not every version of it looks: some
+/// copy the bits of an unsigned number into a signed one, or let pass what is no number.
+HRESULT Cambiar(const VARIANT& v, VARTYPE tipo, VARIANT* otro) {
+    const bool sinSigno = V_VT(&v) == VT_UI2 || V_VT(&v) == VT_UI4 || V_VT(&v) == VT_UINT;
+    if (sinSigno && (tipo == VT_I2 || tipo == VT_I4)) {
+        VARIANT ancho;
+        VariantInit(&ancho);
+        const HRESULT estado = CambiarTipo(v, VT_I8, &ancho);
+        return FAILED(estado) ? estado : CambiarTipo(ancho, tipo, otro);
+    }
+    if (tipo != VT_BSTR && tipo != VT_BOOL && NoEsNumero(v))
+        return DISP_E_OVERFLOW;
+    return CambiarTipo(v, tipo, otro);
+}
+
+/// A late-bound value on its way to the type that is wanted.
+class ValorTardio {
+  public:
+    explicit ValorTardio(const VARIANT& v) : valor_(&Directo(v, propio_)) {}
+    ValorTardio(const ValorTardio&) = delete;
+    ValorTardio& operator=(const ValorTardio&) = delete;
+
+    const VARIANT& operator*() const { return *valor_; }
+
+    /// The runtime's status; the value stays what it was where it does not convert.
+    HRESULT Convertir(VARTYPE tipo) {
+        if (V_VT(valor_) == tipo)
+            return S_OK;
+        const HRESULT leido = TomarMiembroPorDefecto();
+        if (FAILED(leido) || V_VT(valor_) == tipo)
+            return leido;
+        VarianteCom otro;
+        const HRESULT estado = Cambiar(*valor_, tipo, &otro);
+        if (SUCCEEDED(estado))
+            Poner(otro);
+        return estado;
+    }
+
+  private:
+    void Poner(VarianteCom& otro) {
+        std::swap(static_cast<VARIANT&>(propio_), static_cast<VARIANT&>(otro));
+        valor_ = &propio_;
+    }
+
+    /// The runtime follows objects as well, but without end where one stands for itself.
+    HRESULT TomarMiembroPorDefecto() {
+        constexpr int Maximo = 16;
+        for (int i = 0; V_VT(valor_) == VT_DISPATCH && V_DISPATCH(valor_); ++i) {
+            VarianteCom leido;
+            if (i == Maximo ||
+                FAILED(LeerTardio(Ptr<IDispatch>(V_DISPATCH(valor_)), DISPID_VALUE, &leido)))
+                return DISP_E_TYPEMISMATCH;
+            Poner(leido);
+        }
+        return S_OK;
+    }
+
+    VarianteCom propio_;
+    const VARIANT* valor_;
+};
+
+/// Whole numbers up to 32 bits keep their type; a larger one is a double.
+Variante SinSigno(ULONG numero) {
+    if (numero > static_cast<ULONG>(std::numeric_limits<std::int32_t>::max()))
+        return static_cast<double>(numero);
+    return static_cast<std::int32_t>(numero);
+}
+
 } // namespace
 
-Variante DesdeVariant(const VARIANT& v) {
-    if (V_VT(&v) == (VT_BYREF | VT_VARIANT)) {
-        if (!V_VARIANTREF(&v))
-            Lanzar(NumeroError::TiposNoCoinciden);
-        // One level only, as the environment defines it: a loop of references can't be built.
-        if (V_VT(V_VARIANTREF(&v)) == (VT_BYREF | VT_VARIANT))
-            Lanzar(NumeroError::TiposNoCoinciden);
-        return DesdeVariant(*V_VARIANTREF(&v));
+VARIANT NumeroTardio(const VARIANT& v, VARTYPE tipo) {
+    if (V_VT(&v) == tipo)
+        return v;
+    ValorTardio valor(v);
+    // The everyday number of a script, spared the road through the platform.
+    if (tipo == VT_I4 && V_VT(&*valor) == VT_I2) {
+        VARIANT ancho;
+        V_VT(&ancho) = VT_I4;
+        V_I4(&ancho) = V_I2(&*valor);
+        return ancho;
     }
+    Exigir(valor.Convertir(tipo));
+    return *valor;
+}
+
+Texto TextoTardio(const VARIANT& v) {
+    ValorTardio valor(v);
+    Exigir(valor.Convertir(VT_BSTR));
+    return DesdeBstr(V_BSTR(&*valor));
+}
+
+Color ColorTardio(const VARIANT& v) {
+    ValorTardio valor(v);
+    HRESULT estado = valor.Convertir(VT_I4);
+    if (estado == DISP_E_OVERFLOW)
+        estado = valor.Convertir(VT_UI4);
+    Exigir(estado);
+    return Color(static_cast<std::uint32_t>(V_UI4(&*valor)));
+}
+
+bool EsOmitido(const VARIANT& v) {
+    const VARIANT* directo =
+        V_VT(&v) == (VT_BYREF | VT_VARIANT) && V_VARIANTREF(&v) ? V_VARIANTREF(&v) : &v;
+    return V_VT(directo) == VT_ERROR && V_ERROR(directo) == DISP_E_PARAMNOTFOUND;
+}
+
+Variante DesdeVariant(const VARIANT& v) {
     if (V_ISBYREF(&v)) {
-        VarianteCom directo;
-        if (!V_BYREF(&v) || FAILED(VariantCopyInd(directo.Recibir(), const_cast<VARIANT*>(&v))) ||
-            V_ISBYREF(&directo))
-            Lanzar(NumeroError::TiposNoCoinciden);
-        return DesdeVariant(directo);
+        VarianteCom copia;
+        return DesdeVariant(Directo(v, copia));
     }
     switch (V_VT(&v)) {
     case VT_EMPTY:
@@ -103,8 +223,7 @@ Variante DesdeVariant(const VARIANT& v) {
         return static_cast<std::int32_t>(V_I4(&v));
     case VT_UI4:
     case VT_UINT:
-        // Colours come this way too; a value beyond 31 bits keeps its pattern.
-        return static_cast<std::int32_t>(V_UI4(&v));
+        return SinSigno(V_UI4(&v));
     case VT_R4:
         return V_R4(&v);
     case VT_R8:

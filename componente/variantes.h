@@ -1,6 +1,7 @@
 // Between VARIANT and the values of the core.
 #pragma once
 
+#include "common/color.h"
 #include "common/conversion.h"
 #include "common/errores.h"
 #include "common/variante.h"
@@ -24,8 +25,22 @@ class ObjetoCom final : public Objeto {
 };
 
 /// Follows references; fonts and pictures become the core's own reference types. A type that has no
-/// counterpart (arrays, records) raises TiposNoCoinciden.
+/// counterpart (arrays, records) raises TiposNoCoinciden; numbers that have none become doubles.
 Variante DesdeVariant(const VARIANT& v);
+
+// Late-bound values as the type that a member wants, by the automation runtime's own conversions in
+// the user's locale: references are followed, and an object stands for its default member. They
+// raise FalloCom with the runtime's status (DISP_E_TYPEMISMATCH, DISP_E_OVERFLOW…).
+
+/// `tipo` is a number's or VT_BOOL: the result owns nothing.
+VARIANT NumeroTardio(const VARIANT& v, VARTYPE tipo);
+Texto TextoTardio(const VARIANT& v);
+/// Any pattern of 32 bits, as a negative number or as a positive one: scripts write system colours
+/// either way.
+Color ColorTardio(const VARIANT& v);
+
+/// Whether an argument stands for one that was left out.
+bool EsOmitido(const VARIANT& v);
 /// `*v` is overwritten, not cleared.
 void HaciaVariant(const Variante& valor, VARIANT* v);
 

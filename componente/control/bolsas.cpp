@@ -14,6 +14,38 @@
 
 namespace pincela::componente {
 
+namespace {
+
+/// Type in which the runtime should hand over what a bag holds, VT_EMPTY where the core reads it as
+/// well: it alone knows how a date is written for a text property, and a truth value as text.
+VARTYPE TipoGuardado(VARTYPE hallado, const Variante& porDefecto) {
+    if (std::holds_alternative<bool>(porDefecto) && hallado == VT_BSTR)
+        return VT_BOOL;
+    if (!std::holds_alternative<Texto>(porDefecto))
+        return VT_EMPTY;
+    switch (hallado) {
+    case VT_DATE:
+    case VT_CY:
+    case VT_DECIMAL:
+    case VT_I8:
+    case VT_UI8:
+        return VT_BSTR;
+    default:
+        return VT_EMPTY;
+    }
+}
+
+Variante DesdeVariantGuardado(const VARIANT& v, const Variante& porDefecto) {
+    const VARTYPE tipo = TipoGuardado(V_VT(&v), porDefecto);
+    VarianteCom otro;
+    if (tipo != VT_EMPTY && SUCCEEDED(VariantChangeTypeEx(&otro, const_cast<VARIANT*>(&v),
+                                                          LOCALE_USER_DEFAULT, 0, tipo)))
+        return DesdeVariant(otro);
+    return DesdeVariant(v);
+}
+
+} // namespace
+
 Variante BolsaCom::ReadProperty(VistaTexto clave, const Variante& porDefecto) {
     const Texto nombre(clave);
     VarianteCom valor;
@@ -23,7 +55,7 @@ Variante BolsaCom::ReadProperty(VistaTexto clave, const Variante& porDefecto) {
     if (estado == E_INVALIDARG || estado == E_FAIL)
         return porDefecto;
     Exigir(estado);
-    return DesdeVariant(valor);
+    return DesdeVariantGuardado(valor, porDefecto);
 }
 
 void BolsaCom::WriteProperty(VistaTexto clave, const Variante& valor, const Variante& porDefecto) {

@@ -5,15 +5,18 @@
 
 namespace pincela::componente {
 
-/// The value of a property, converted to `tipo`. False when it can't be read or converted, or is
-/// empty; `*valor` is then left as it was. The object is held meanwhile.
-inline bool LeerTardio(Ptr<IDispatch> objeto, DISPID dispid, VARTYPE tipo, VARIANT* valor) {
-    VarianteCom leido;
+/// The value of a property as it comes. The object is held meanwhile.
+inline HRESULT LeerTardio(Ptr<IDispatch> objeto, DISPID dispid, VARIANT* leido) {
     DISPPARAMS ninguno{};
-    const HRESULT estado =
-        objeto->Invoke(dispid, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &ninguno,
-                       leido.Recibir(), nullptr, nullptr);
-    if (FAILED(estado) || V_VT(&leido) == VT_EMPTY)
+    return objeto->Invoke(dispid, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &ninguno,
+                          leido, nullptr, nullptr);
+}
+
+/// The value of a property, converted to `tipo`. False when it can't be read or converted, or is
+/// empty; `*valor` is then left as it was.
+inline bool LeerTardio(const Ptr<IDispatch>& objeto, DISPID dispid, VARTYPE tipo, VARIANT* valor) {
+    VarianteCom leido;
+    if (FAILED(LeerTardio(objeto, dispid, &leido)) || V_VT(&leido) == VT_EMPTY)
         return false;
     if (V_VT(&leido) == tipo) {
         std::swap(*valor, static_cast<VARIANT&>(leido));

@@ -2,7 +2,6 @@
 
 #include "componente/control/control_interno.h"
 #include "plataforma/windows/modulo.h"
-#include "plataforma/windows/regional.h"
 
 #include <utility>
 
@@ -21,9 +20,7 @@ class ObjetoPagina::Trabajo {
 
 ObjetoPagina::ObjetoPagina(const ClasePublicada& clase, const ClasePublicada& editada,
                            const windows::DisenoPagina& diseno)
-    : ventana_(diseno, *this), clase_(clase), editada_(editada) {
-    windows::LeerRegional();
-}
+    : ventana_(diseno, *this), clase_(clase), editada_(editada) {}
 
 HRESULT ObjetoPagina::QueryInterface(REFIID iid, void** salida) {
     if (!salida)
@@ -112,13 +109,13 @@ HRESULT ObjetoPagina::MostrarSeleccion() {
 
 HRESULT ObjetoPagina::SetObjects(ULONG cuantos, IUnknown** objetos) {
     if (cuantos && !objetos)
-        return E_POINTER;
+        return SinErrorInfo(E_POINTER);
     Trabajo trabajo(*this);
     return Proteger(*clase_.datos, [&]() -> HRESULT {
         Objetos nuevos;
         for (ULONG i = 0; i < cuantos; ++i) {
             if (!objetos[i])
-                return E_POINTER;
+                return SinErrorInfo(E_POINTER);
             nuevos.emplace_back(objetos[i]);
         }
         objetos_.swap(nuevos);
@@ -142,7 +139,7 @@ HRESULT ObjetoPagina::IsPageDirty() {
 
 HRESULT ObjetoPagina::Apply() {
     if (objetos_.empty())
-        return E_UNEXPECTED;
+        return SinErrorInfo(E_UNEXPECTED);
     Trabajo trabajo(*this);
     return Proteger(*clase_.datos, [&] {
         LaPagina().ApplyChanges();
@@ -155,7 +152,7 @@ HRESULT ObjetoPagina::Apply() {
 
 HRESULT ObjetoPagina::SetPageSite(IPropertyPageSite* sitio) {
     if (sitio && sitio_)
-        return E_UNEXPECTED;
+        return SinErrorInfo(E_UNEXPECTED);
     const auto anterior = std::exchange(sitio_, Ptr<IPropertyPageSite>(sitio));
     anunciado_ = false;
     return S_OK;
@@ -163,9 +160,9 @@ HRESULT ObjetoPagina::SetPageSite(IPropertyPageSite* sitio) {
 
 HRESULT ObjetoPagina::Activate(HWND padre, LPCRECT lugar, BOOL) {
     if (!lugar)
-        return E_POINTER;
+        return SinErrorInfo(E_POINTER);
     if (ventana_.Ventana())
-        return E_UNEXPECTED;
+        return SinErrorInfo(E_UNEXPECTED);
     Trabajo trabajo(*this);
     const HRESULT creada =
         Proteger(*clase_.datos, [&] { return ventana_.CrearVentana(padre) ? S_OK : E_FAIL; });
@@ -185,14 +182,14 @@ HRESULT ObjetoPagina::Activate(HWND padre, LPCRECT lugar, BOOL) {
 
 HRESULT ObjetoPagina::Deactivate() {
     if (!ventana_.Ventana())
-        return E_UNEXPECTED;
+        return SinErrorInfo(E_UNEXPECTED);
     ventana_.DestruirVentana();
     return S_OK;
 }
 
 HRESULT ObjetoPagina::GetPageInfo(PROPPAGEINFO* info) {
     if (!info)
-        return E_POINTER;
+        return SinErrorInfo(E_POINTER);
     info->pszTitle = info->pszDocString = info->pszHelpFile = nullptr;
     info->size = {};
     info->dwHelpContext = 0;
@@ -205,9 +202,9 @@ HRESULT ObjetoPagina::GetPageInfo(PROPPAGEINFO* info) {
 
 HRESULT ObjetoPagina::Show(UINT modo) {
     if (!ventana_.Ventana())
-        return E_UNEXPECTED;
+        return SinErrorInfo(E_UNEXPECTED);
     if (modo != SW_SHOW && modo != SW_SHOWNORMAL && modo != SW_HIDE)
-        return E_INVALIDARG;
+        return SinErrorInfo(E_INVALIDARG);
     // A frame makes its tabs before its pages, and a later child would lie under them.
     if (modo != SW_HIDE)
         SetWindowPos(ventana_.Ventana(), HWND_TOP, 0, 0, 0, 0,
@@ -218,9 +215,9 @@ HRESULT ObjetoPagina::Show(UINT modo) {
 
 HRESULT ObjetoPagina::Move(LPCRECT lugar) {
     if (!lugar)
-        return E_POINTER;
+        return SinErrorInfo(E_POINTER);
     if (!ventana_.Ventana())
-        return E_UNEXPECTED;
+        return SinErrorInfo(E_UNEXPECTED);
     MoveWindow(ventana_.Ventana(), lugar->left, lugar->top, lugar->right - lugar->left,
                lugar->bottom - lugar->top, TRUE);
     return S_OK;
@@ -232,7 +229,7 @@ HRESULT ObjetoPagina::Help(LPCOLESTR) {
 
 HRESULT ObjetoPagina::TranslateAccelerator(MSG* mensaje) {
     if (!mensaje)
-        return E_POINTER;
+        return SinErrorInfo(E_POINTER);
     Trabajo trabajo(*this);
     return Proteger(*clase_.datos, [&] { return ventana_.Pretraducir(*mensaje) ? S_OK : S_FALSE; });
 }
@@ -240,7 +237,7 @@ HRESULT ObjetoPagina::TranslateAccelerator(MSG* mensaje) {
 HRESULT ObjetoPagina::EditProperty(DISPID propiedad) {
     const MiembroTardio* miembro = editada_.Buscar(propiedad);
     if (!miembro || !Edita(ventana_.Diseno(), miembro->nombre))
-        return E_NOTIMPL;
+        return SinErrorInfo(E_NOTIMPL);
     return Proteger(*clase_.datos,
                     [&] { return ventana_.Enfocar(miembro->nombre) ? S_OK : E_FAIL; });
 }

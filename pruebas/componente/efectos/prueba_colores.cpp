@@ -166,8 +166,6 @@ TEST_CASE("Null pointers are pointed out, and results cleared") {
     tRectRedo forma{};
     CHECK(b.efectos->DevColor(nullptr, &canal, &simple, &corto) == E_POINTER);
     CHECK(corto == 0);
-    CHECK(b.efectos->DevColor(&color, nullptr, &simple, &corto) == E_POINTER);
-    CHECK(b.efectos->DevColor(&color, &canal, nullptr, &corto) == E_POINTER);
     CHECK(b.efectos->DevColor(&color, &canal, &simple, nullptr) == E_POINTER);
     CHECK(b.efectos->InviertoColor(nullptr, &largo) == E_POINTER);
     CHECK(largo == 0);

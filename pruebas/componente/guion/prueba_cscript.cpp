@@ -6,11 +6,27 @@
 
 #include <string>
 
-TEST_CASE("A script uses the drawing effects through the registered class") {
+namespace {
+
+void CorrerGuion(const wchar_t* nombre) {
     const std::wstring componente = publicado::RutaDelComponente();
     const publicado::Corrida corrida = publicado::Correr(
         L"cscript.exe //nologo \"" + componente.substr(0, componente.rfind(L'\\')) +
-        L"\\guiones\\efectos.vbs\"");
+        L"\\guiones\\" + nombre + L"\"");
     CHECK(corrida.salida == "TODO BIEN\r\n");
     CHECK(corrida.codigo == 40);
+}
+
+} // namespace
+
+TEST_CASE("A script uses the drawing effects through the registered class") {
+    CorrerGuion(L"efectos.vbs");
+}
+
+TEST_CASE("A VBScript assigns dates, objects and colours as its language writes them") {
+    CorrerGuion(L"propiedades.vbs");
+}
+
+TEST_CASE("A JScript assigns objects and colours as its language writes them") {
+    CorrerGuion(L"propiedades.js");
 }
