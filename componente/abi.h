@@ -114,13 +114,13 @@ struct Abi<ReferenciaObjeto> {
 template <>
 struct Abi<Variante> {
     using Tipo = VARIANT;
-    static Variante Entrar(const VARIANT& v) { return DesdeVariant(v); }
+    static Variante Entrar(const VARIANT& v) { return ValorTardioDe(v); }
     static VARIANT Salir(const Variante& v) {
         VARIANT r;
         HaciaVariant(v, &r);
         return r;
     }
-    static Variante DeVariant(const VARIANT& v) { return DesdeVariant(v); }
+    static Variante DeVariant(const VARIANT& v) { return ValorTardioDe(v); }
     static Variante AVariante(const Variante& v) { return v; }
 };
 template <>

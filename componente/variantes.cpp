@@ -126,12 +126,6 @@ class ValorTardio {
         return estado;
     }
 
-  private:
-    void Poner(VarianteCom& otro) {
-        std::swap(static_cast<VARIANT&>(propio_), static_cast<VARIANT&>(otro));
-        valor_ = &propio_;
-    }
-
     /// The runtime follows objects as well, but without end where one stands for itself.
     HRESULT TomarMiembroPorDefecto() {
         constexpr int Maximo = 16;
@@ -143,6 +137,12 @@ class ValorTardio {
             Poner(leido);
         }
         return S_OK;
+    }
+
+  private:
+    void Poner(VarianteCom& otro) {
+        std::swap(static_cast<VARIANT&>(propio_), static_cast<VARIANT&>(otro));
+        valor_ = &propio_;
     }
 
     VarianteCom propio_;
@@ -186,6 +186,11 @@ Color ColorTardio(const VARIANT& v) {
         estado = valor.Convertir(VT_UI4);
     Exigir(estado);
     return Color(static_cast<std::uint32_t>(V_UI4(&*valor)));
+}
+
+Variante ValorTardioDe(const VARIANT& v) {
+    ValorTardio valor(v);
+    return DesdeVariant(SUCCEEDED(valor.TomarMiembroPorDefecto()) ? *valor : v);
 }
 
 bool EsOmitido(const VARIANT& v) {

@@ -39,6 +39,9 @@ Texto TextoTardio(const VARIANT& v);
 /// either way.
 Color ColorTardio(const VARIANT& v);
 
+/// A value of any type. An object without a default member stays the object.
+Variante ValorTardioDe(const VARIANT& v);
+
 /// Whether an argument stands for one that was left out.
 bool EsOmitido(const VARIANT& v);
 /// `*v` is overwritten, not cleared.

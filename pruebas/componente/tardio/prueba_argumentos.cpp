@@ -79,6 +79,23 @@ TEST_CASE("A default member is read once for each assignment") {
     CHECK(objeto->lecturas == 1);
 }
 
+TEST_CASE("An object stands for its default member in an argument of any type, too") {
+    const BancoEfectos b;
+    const auto canal = [&](const Puntero<ConDefecto>& objeto) {
+        const Variante simple(static_cast<IDispatch*>(objeto.get()));
+        const HRESULT estado = b.Invocar(DevColor, {simple, Variante(0), Variante(0xFF8040)});
+        return estado == S_OK ? b.resultado.iVal : SHORT{-1};
+    };
+    CHECK(canal(anfitrion::Hacer<ConDefecto>(Variante(true))) == 64);
+    CHECK(canal(anfitrion::Hacer<ConDefecto>(Variante(0))) == 16384);
+    CHECK(canal(anfitrion::Hacer<ConDefecto>()) == -1); // none to stand for
+    LONG color = 0xFF8040, rojo = 0;
+    SHORT resultado = 0;
+    Variante simple(static_cast<IDispatch*>(anfitrion::Hacer<ConDefecto>(Variante(L"True")).get()));
+    CHECK(b.efectos->DevColor(&color, &rojo, &simple, &resultado) == S_OK);
+    CHECK(resultado == 64);
+}
+
 TEST_CASE("A required argument that is passed as missing is not optional") {
     const BancoEfectos b;
     const Variante falta = Variante::Omitida();
