@@ -14,7 +14,6 @@ struct DescripcionParametro {
 
 struct DescripcionRanura {
     Rasgos rasgos;
-    DISPID dispid;
     INVOKEKIND clase;
     Tipo resultado; // VT_VOID when there is none
     std::vector<DescripcionParametro> parametros;
@@ -28,13 +27,11 @@ struct DescripcionDeEvento {
 
 namespace detalle {
 template <class Miembro>
-void DescribirPropiedad(const Miembro& miembro, DISPID dispid, std::vector<DescripcionRanura>& r) {
-    r.push_back(
-        {miembro.rasgos, dispid, INVOKE_PROPERTYGET, TipoDe<typename Miembro::Valor>(), {}});
+void DescribirPropiedad(const Miembro& miembro, std::vector<DescripcionRanura>& r) {
+    r.push_back({miembro.rasgos, INVOKE_PROPERTYGET, TipoDe<typename Miembro::Valor>(), {}});
     if constexpr (Miembro::SeEscribe) {
         using Argumento = std::tuple_element_t<0, typename FirmaDe<Miembro::Poner>::Argumentos>;
         r.push_back({miembro.rasgos,
-                     dispid,
                      static_cast<INVOKEKIND>(Miembro::ClaseDePoner),
                      {},
                      {{Parametro{nullptr}, TipoDe<Argumento>()}}});
@@ -42,10 +39,9 @@ void DescribirPropiedad(const Miembro& miembro, DISPID dispid, std::vector<Descr
 }
 
 template <class Miembro>
-void DescribirMetodo(const Miembro& miembro, DISPID dispid, std::vector<DescripcionRanura>& r) {
+void DescribirMetodo(const Miembro& miembro, std::vector<DescripcionRanura>& r) {
     using F = FirmaDe<Miembro::Funcion>;
-    DescripcionRanura ranura{
-        miembro.rasgos, dispid, INVOKE_FUNC, TipoDe<typename F::Resultado>(), {}};
+    DescripcionRanura ranura{miembro.rasgos, INVOKE_FUNC, TipoDe<typename F::Resultado>(), {}};
     [&]<std::size_t... I>(std::index_sequence<I...>) {
         (ranura.parametros.push_back(
              {miembro.parametros[I], TipoDe<std::tuple_element_t<I, typename F::Argumentos>>()}),
@@ -63,9 +59,9 @@ std::vector<DescripcionRanura> DescribirRanuras() {
     ParaCadaMiembro<Tabla>(
         [&]<class M, std::size_t I>(const M& miembro, std::integral_constant<std::size_t, I>) {
             if constexpr (M::TieneValor)
-                detalle::DescribirPropiedad(miembro, DispidDe<Tabla, I>(), ranuras);
+                detalle::DescribirPropiedad(miembro, ranuras);
             else
-                detalle::DescribirMetodo(miembro, DispidDe<Tabla, I>(), ranuras);
+                detalle::DescribirMetodo(miembro, ranuras);
         });
     return ranuras;
 }
@@ -75,7 +71,7 @@ std::vector<DescripcionDeEvento> DescribirEventos() {
     std::vector<DescripcionDeEvento> eventos;
     ParaCadaEvento<Tabla>(
         [&]<class E, std::size_t I>(const E& evento, std::integral_constant<std::size_t, I>) {
-            DescripcionDeEvento descripcion{evento.nombre, static_cast<DISPID>(I + 1), {}};
+            DescripcionDeEvento descripcion{evento.nombre, evento.dispid, {}};
             [&]<std::size_t... J>(std::index_sequence<J...>) {
                 (descripcion.parametros.push_back(
                      {Parametro{evento.argumentos[J]},

@@ -284,7 +284,7 @@ constexpr MiembroTardio DescribirTardio() {
         constexpr WORD poner =
             M::SeEscribe ? DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF : WORD{0};
         return {m.rasgos.nombre,
-                DispidDe<Tabla, I>(),
+                m.rasgos.dispid,
                 TipoDe<typename M::Valor>(),
                 static_cast<WORD>(DISPATCH_PROPERTYGET | poner),
                 m.rasgos.categoria,
@@ -294,7 +294,7 @@ constexpr MiembroTardio DescribirTardio() {
                 nullptr};
     } else {
         return {m.rasgos.nombre,
-                DispidDe<Tabla, I>(),
+                m.rasgos.dispid,
                 {},
                 DISPATCH_METHOD,
                 m.rasgos.categoria,

@@ -35,13 +35,13 @@ using FirmaDe = Firma<std::remove_cv_t<decltype(F)>>;
 template <class T>
 inline constexpr bool EsObjeto = std::is_same_v<T, Fuente> || std::is_same_v<T, Imagen>;
 
-/// What a property says of itself beside its functions.
+/// What a member says of itself beside its functions. The identifier is published: containers keep
+/// it in compiled forms, so it stays as it is for ever.
 struct Rasgos {
+    DISPID dispid;
     const wchar_t* nombre;
     Categoria categoria;
     const wchar_t* ayuda = nullptr;
-    /// A standard identifier instead of the counted one; the count goes on all the same.
-    DISPID estandar = DISPID_UNKNOWN;
     WORD banderas = 0;
 };
 
@@ -56,7 +56,6 @@ struct Propiedad {
     static constexpr WORD ClaseDePoner =
         EsObjeto<Valor> ? DISPATCH_PROPERTYPUTREF : DISPATCH_PROPERTYPUT;
     Rasgos rasgos;
-    constexpr bool OcupaNumero() const { return true; }
 };
 
 template <auto Leer, auto Poner>
@@ -87,22 +86,12 @@ struct Metodo {
                   "each parameter needs its name");
     Rasgos rasgos;
     std::array<Parametro, N> parametros;
-    /// True when the method uses up a number of the properties' count.
-    bool ocupa = false;
-    constexpr bool OcupaNumero() const { return ocupa; }
 };
 
 template <auto Funcion, class... P>
-constexpr auto metodo(const wchar_t* nombre, DISPID dispid, P... parametros) {
-    return Metodo<Funcion, sizeof...(P)>{{nombre, Categoria::Ninguna, nullptr, dispid},
+constexpr auto metodo(DISPID dispid, const wchar_t* nombre, P... parametros) {
+    return Metodo<Funcion, sizeof...(P)>{{dispid, nombre, Categoria::Ninguna},
                                          {{Parametro{parametros}...}}};
-}
-/// A method that stands among the properties and takes one of their numbers out of use.
-template <auto Funcion>
-constexpr auto metodoEntrePropiedades(const wchar_t* nombre, DISPID dispid) {
-    auto m = metodo<Funcion>(nombre, dispid);
-    m.ocupa = true;
-    return m;
 }
 
 /// Arguments of an event, from the type of the field the control raises it through.
@@ -125,32 +114,15 @@ struct DescripcionEvento {
     using Argumentos = typename ArgumentosDeEvento<
         typename TipoDelCampo<std::remove_cv_t<decltype(Campo_)>>::Tipo>::Tupla;
     static_assert(std::tuple_size_v<Argumentos> == N, "each argument needs its name");
+    DISPID dispid;
     const wchar_t* nombre;
     std::array<const wchar_t*, N> argumentos;
 };
 
 template <auto Campo, class... N>
-constexpr DescripcionEvento<Campo, sizeof...(N)> evento(const wchar_t* nombre, N... argumentos) {
-    return {nombre, {argumentos...}};
-}
-
-inline constexpr DISPID PrimeraPropiedad = 0x68030000;
-
-/// Dispatch identifier of member `I` of a table: a standard one or a method's own, else the number
-/// of numbered members declared after it.
-template <class Tabla, std::size_t I>
-constexpr DISPID DispidDe() {
-    constexpr auto& miembro = std::get<I>(Tabla::miembros);
-    if constexpr (miembro.rasgos.estandar != DISPID_UNKNOWN)
-        return miembro.rasgos.estandar;
-    else
-        return []<std::size_t... J>(std::index_sequence<J...>) {
-            return PrimeraPropiedad +
-                   (0 + ... +
-                    (std::get<I + 1 + J>(Tabla::miembros).OcupaNumero() ? DISPID{1} : DISPID{0}));
-        }
-    (std::make_index_sequence<std::tuple_size_v<std::remove_cvref_t<decltype(Tabla::miembros)>> -
-                              I - 1>{});
+constexpr DescripcionEvento<Campo, sizeof...(N)> evento(DISPID dispid, const wchar_t* nombre,
+                                                        N... argumentos) {
+    return {dispid, nombre, {argumentos...}};
 }
 
 /// Calls `f(miembro, constante<I>)` for each member in slot order.

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "common/color.h"
-#include "common/enumeraciones.h"
 #include "common/texto.h"
 #include "common/variante.h"
+#include "componente/tablas/enumeraciones.h"
 #include "plataforma/fuente.h"
 #include "plataforma/imagen.h"
 
@@ -26,55 +26,12 @@ enum class Familia : std::uint8_t {
     ObjetoImagen
 };
 
-/// Which enumeration, in the order of the type library.
-enum class CualEnumeracion : std::uint8_t {
-    TBack,
-    TText,
-    TSombra,
-    Tamanio,
-    EfectosBoton,
-    TLetra,
-    TEstilos,
-    TEstilosR,
-    ColoresRGB,
-    TEstilosB,
-    Alineaciones,
-    Ninguna
-};
-
 struct Tipo {
     VARTYPE vt = VT_VOID;
     Familia familia = Familia::Simple;
-    CualEnumeracion enumeracion = CualEnumeracion::Ninguna;
+    const Enumeracion* enumeracion = nullptr; // of that family
     bool porReferencia = false;
 };
-
-template <class T>
-constexpr CualEnumeracion CualEs() {
-    using enum CualEnumeracion;
-    if constexpr (std::is_same_v<T, pincela::TBack>)
-        return TBack;
-    else if constexpr (std::is_same_v<T, pincela::TText>)
-        return TText;
-    else if constexpr (std::is_same_v<T, pincela::TSombra>)
-        return TSombra;
-    else if constexpr (std::is_same_v<T, pincela::Tamanio>)
-        return Tamanio;
-    else if constexpr (std::is_same_v<T, pincela::EfectosBoton>)
-        return EfectosBoton;
-    else if constexpr (std::is_same_v<T, pincela::TLetra>)
-        return TLetra;
-    else if constexpr (std::is_same_v<T, pincela::TEstilos>)
-        return TEstilos;
-    else if constexpr (std::is_same_v<T, pincela::TEstilosR>)
-        return TEstilosR;
-    else if constexpr (std::is_same_v<T, pincela::ColoresRGB>)
-        return ColoresRGB;
-    else if constexpr (std::is_same_v<T, pincela::TEstilosB>)
-        return TEstilosB;
-    else
-        return Alineaciones;
-}
 
 template <class T>
 constexpr Tipo TipoDeValor() {
@@ -106,7 +63,8 @@ constexpr Tipo TipoDeValor() {
         return {VT_RECORD, Familia::Registro};
     else {
         static_assert(std::is_enum_v<T>, "no automation type for this C++ type");
-        return {VT_I4, Familia::Enumeracion, CualEs<T>()};
+        static_assert(Enumeraciones::Contiene<T>, "the type library does not publish it");
+        return {VT_I4, Familia::Enumeracion, &EnumeracionDe<T>::datos};
     }
 }
 

@@ -39,11 +39,15 @@ void Conectar(ObjetoControl& objeto, Evento<A...>& evento, DISPID numero) {
     });
 }
 
-/// `E` holds the events, which the entries of `Descripciones` name in the order of their numbers.
+/// `eventos` holds the events that `descripciones` name.
 template <class E, class... Descripciones>
-void ConectarTodos(ObjetoControl& objeto, E& eventos, const std::tuple<Descripciones...>&) {
-    DISPID numero = 0;
-    (Conectar(objeto, eventos.*Descripciones::Campo, ++numero), ...);
+void ConectarTodos(ObjetoControl& objeto, E& eventos,
+                   const std::tuple<Descripciones...>& descripciones) {
+    std::apply(
+        [&](const Descripciones&... una) {
+            (Conectar(objeto, eventos.*Descripciones::Campo, una.dispid), ...);
+        },
+        descripciones);
 }
 
 template <class Tabla>

@@ -106,7 +106,7 @@ HRESULT ObjetoControl::GetDisplayString(DISPID dispid, BSTR* texto) {
         Variante valor;
         Exigir(LeerMiembro(dispid, valor));
         const std::int32_t numero = AEntero32(valor);
-        for (const MiembroEnumeracion& uno : EnumeracionDe(miembro->tipo.enumeracion).miembros)
+        for (const MiembroEnumeracion& uno : miembro->tipo.enumeracion->miembros)
             if (uno.valor == numero) {
                 *texto = SysAllocString(uno.nombre);
                 return *texto ? S_OK : E_OUTOFMEMORY;
@@ -142,7 +142,7 @@ HRESULT ObjetoControl::GetPredefinedStrings(DISPID dispid, CALPOLESTR* textos, C
     const MiembroTardio* miembro = clase_.Buscar(dispid);
     if (!EsEnumeracion(miembro))
         return S_FALSE;
-    const auto miembros = EnumeracionDe(miembro->tipo.enumeracion).miembros;
+    const auto miembros = miembro->tipo.enumeracion->miembros;
     const auto cuantos = static_cast<ULONG>(miembros.size());
     auto* nombres = static_cast<LPOLESTR*>(CoTaskMemAlloc(cuantos * sizeof(LPOLESTR)));
     auto* numeros = static_cast<DWORD*>(CoTaskMemAlloc(cuantos * sizeof(DWORD)));
@@ -174,7 +174,7 @@ HRESULT ObjetoControl::GetPredefinedValue(DISPID dispid, DWORD galleta, VARIANT*
     const MiembroTardio* miembro = clase_.Buscar(dispid);
     if (!EsEnumeracion(miembro))
         return E_NOTIMPL;
-    for (const MiembroEnumeracion& uno : EnumeracionDe(miembro->tipo.enumeracion).miembros) {
+    for (const MiembroEnumeracion& uno : miembro->tipo.enumeracion->miembros) {
         if (static_cast<DWORD>(uno.valor) == galleta) {
             V_VT(valor) = VT_I4;
             V_I4(valor) = uno.valor;

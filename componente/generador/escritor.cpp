@@ -4,10 +4,12 @@
 #include "componente/com.h"
 #include "componente/descripcion.h"
 #include "componente/generador/msft.h"
+#include "componente/tablas/congelado.h"
 
 #include <array>
 #include <cstdio>
 #include <deque>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -56,7 +58,7 @@ class Escritor {
     Ptr<ICreateTypeLib2> biblioteca_;
     Ptr<ITypeLib> stdole_;
     Ptr<ICreateTypeInfo> registro_;
-    std::vector<Ptr<ICreateTypeInfo>> enumeraciones_;
+    std::map<const Enumeracion*, Ptr<ICreateTypeInfo>> enumeraciones_;
     std::deque<TYPEDESC> descriptores_;
     std::deque<PARAMDESCEX> defectos_;
 };
@@ -117,8 +119,7 @@ TYPEDESC Escritor::Descriptor(ICreateTypeInfo& quien, const Tipo& tipo) {
         break;
     case Familia::Enumeracion:
         d.vt = VT_USERDEFINED;
-        d.hreftype =
-            ReferirPropio(quien, *enumeraciones_[static_cast<std::size_t>(tipo.enumeracion)].get());
+        d.hreftype = ReferirPropio(quien, *enumeraciones_.at(tipo.enumeracion).get());
         break;
     case Familia::Registro:
         d.vt = VT_USERDEFINED;
@@ -169,7 +170,8 @@ void Escritor::EscribirRegistro() {
 }
 
 void Escritor::EscribirEnumeracion(const Enumeracion& enumeracion) {
-    auto tipo = Crear(enumeracion.nombre, TKIND_ENUM, enumeracion.guid);
+    Ptr<ICreateTypeInfo>& tipo = enumeraciones_[&enumeracion];
+    tipo = Crear(enumeracion.nombre, TKIND_ENUM, enumeracion.guid);
     UINT i = 0;
     for (const MiembroEnumeracion& miembro : enumeracion.miembros) {
         VARIANT valor{};
@@ -186,7 +188,6 @@ void Escritor::EscribirEnumeracion(const Enumeracion& enumeracion) {
         ++i;
     }
     Exigir(tipo->LayOut(), "LayOut");
-    enumeraciones_.push_back(std::move(tipo));
 }
 
 void Escritor::EscribirRanura(ICreateTypeInfo& en, UINT indice, const DescripcionRanura& ranura) {
@@ -204,7 +205,7 @@ void Escritor::EscribirRanura(ICreateTypeInfo& en, UINT indice, const Descripcio
         elementos.push_back(resultado);
     }
     FUNCDESC funcion{};
-    funcion.memid = ranura.dispid;
+    funcion.memid = ranura.rasgos.dispid;
     funcion.funckind = FUNC_PUREVIRTUAL;
     funcion.invkind = ranura.clase;
     funcion.callconv = CC_STDCALL;
@@ -291,8 +292,8 @@ void Escritor::Escribir() {
     Exigir(biblioteca_->SetName(SinConst(NombreDeLaBiblioteca)), "SetName");
     Exigir(biblioteca_->SetDocString(SinConst(NombreDeLaBiblioteca)), "SetDocString");
     Exigir(biblioteca_->SetLibFlags(LIBFLAG_FCONTROL), "SetLibFlags");
-    for (const Enumeracion& enumeracion : Enumeraciones)
-        EscribirEnumeracion(enumeracion);
+    for (const Enumeracion* enumeracion : Enumeraciones::todas)
+        EscribirEnumeracion(*enumeracion);
     EscribirRegistro();
     ParaCadaClase([this]<class Tabla>(const DatosClase& datos) {
         auto interfaz = EscribirInterfaz(datos, DescribirRanuras<Tabla>());

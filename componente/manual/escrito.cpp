@@ -59,7 +59,7 @@ std::string NombreSimple(const Tipo& tipo) {
 std::string NombreSinEnlace(const Tipo& tipo) {
     switch (tipo.familia) {
     case Familia::Enumeracion:
-        return Utf8(EnumeracionDe(tipo.enumeracion).nombre);
+        return Utf8(tipo.enumeracion->nombre);
     case Familia::Registro:
         return "tRectRedo";
     case Familia::ColorOle:

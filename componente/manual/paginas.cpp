@@ -148,9 +148,9 @@ std::string Clase(const DatosClase& datos) {
 
 std::string LasEnumeraciones() {
     std::string texto = Aviso + std::string("# Enumeraciones\n");
-    for (const Enumeracion& una : Enumeraciones) {
-        texto += "\n## " + Utf8(una.nombre) + "\n\n| miembro | valor |\n|---|---|\n";
-        for (const MiembroEnumeracion& miembro : una.miembros)
+    for (const Enumeracion* una : Enumeraciones::todas) {
+        texto += "\n## " + Utf8(una->nombre) + "\n\n| miembro | valor |\n|---|---|\n";
+        for (const MiembroEnumeracion& miembro : una->miembros)
             texto += "| `" + Utf8(miembro.nombre) + "` | " + std::to_string(miembro.valor) + " |\n";
     }
     return texto +

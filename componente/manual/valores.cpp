@@ -19,7 +19,7 @@ std::string EscribirNumero(long numero, const Tipo& tipo) {
         return texto;
     }
     if (tipo.familia == Familia::Enumeracion)
-        for (const MiembroEnumeracion& uno : EnumeracionDe(tipo.enumeracion).miembros)
+        for (const MiembroEnumeracion& uno : tipo.enumeracion->miembros)
             if (uno.valor == numero)
                 return Utf8(uno.nombre) + " (" + std::to_string(numero) + ")";
     return std::to_string(numero);

@@ -9,11 +9,11 @@ namespace pincela::componente {
 struct TablaProPColores {
     using Nucleo = ProPColores;
     static constexpr auto miembros = std::tuple{
-        metodo<&ProPColores::AgregarColorD>(L"AgregarColorD", 0x6003000D, Parametro{L"Obj"},
+        metodo<&ProPColores::AgregarColorD>(0x6003000D, L"AgregarColorD", Parametro{L"Obj"},
                                             Parametro{L"I"}),
-        metodo<&ProPColores::EliminarColorD>(L"EliminarColorD", 0x6003000E, Parametro{L"Obj"},
+        metodo<&ProPColores::EliminarColorD>(0x6003000E, L"EliminarColorD", Parametro{L"Obj"},
                                              Parametro{L"I"}),
-        metodo<&ProPColores::PreVis>(L"PreVis", 0x6003000F, Parametro{L"I"}, Parametro{L"Objs"}),
+        metodo<&ProPColores::PreVis>(0x6003000F, L"PreVis", Parametro{L"I"}, Parametro{L"Objs"}),
     };
     static constexpr auto eventos = std::tuple{};
 };
@@ -27,11 +27,11 @@ struct TablaProPGeneral {
 struct TablaProPColoresArea {
     using Nucleo = ProPColoresArea;
     static constexpr auto miembros = std::tuple{
-        metodo<&ProPColoresArea::AgregarColorD>(L"AgregarColorD", 0x60030010, Parametro{L"Obj"},
+        metodo<&ProPColoresArea::AgregarColorD>(0x60030010, L"AgregarColorD", Parametro{L"Obj"},
                                                 Parametro{L"I"}),
-        metodo<&ProPColoresArea::EliminarColorD>(L"EliminarColorD", 0x60030011, Parametro{L"Obj"},
+        metodo<&ProPColoresArea::EliminarColorD>(0x60030011, L"EliminarColorD", Parametro{L"Obj"},
                                                  Parametro{L"I"}),
-        metodo<&ProPColoresArea::PreVis>(L"PreVis", 0x60030012, Parametro{L"Objs"}),
+        metodo<&ProPColoresArea::PreVis>(0x60030012, L"PreVis", Parametro{L"Objs"}),
     };
     static constexpr auto eventos = std::tuple{};
 };

@@ -11,41 +11,48 @@ struct TablaTboxSS {
     using T = TboxSS;
     using C = Categoria;
     static constexpr auto miembros = std::tuple{
-        metodo<&T::AjustarTexto>(L"AjustarTexto", 0x6003001C),
-        propiedad<&T::AlinTBox, &T::PonAlinTBox>({L"AlinTBox", C::Apariencia}),
-        propiedad<&T::AlinText, &T::PonAlinText>({L"AlinText", C::Apariencia}),
-        propiedad<&T::MaxText, &T::PonMaxText>({L"MaxText", C::Comportamiento}),
+        metodo<&T::AjustarTexto>(0x6003001C, L"AjustarTexto"),
+        propiedad<&T::AlinTBox, &T::PonAlinTBox>({0x6803001C, L"AlinTBox", C::Apariencia}),
+        propiedad<&T::AlinText, &T::PonAlinText>({0x6803001B, L"AlinText", C::Apariencia}),
+        propiedad<&T::MaxText, &T::PonMaxText>({0x6803001A, L"MaxText", C::Comportamiento}),
         propiedad<&T::Text, &T::PonText>(
-            {L"Text", C::Datos, nullptr, DISPID_VALUE,
+            {DISPID_VALUE, L"Text", C::Datos, nullptr,
              FUNCFLAG_FUIDEFAULT | FUNCFLAG_FBINDABLE | FUNCFLAG_FDEFAULTBIND}),
-        propiedad<&T::FuenteTexto, &T::PonFuenteTexto>({L"Fuente", C::Fuente}),
-        propiedad<&T::ColorLetra, &T::PonColorLetra>({L"ColorLetra", C::Apariencia}),
-        propiedad<&T::ColorLetraSobre, &T::PonColorLetraSobre>({L"ColorLetraSobre", C::Apariencia}),
-        propiedad<&T::ColorFondo, &T::PonColorFondo>({L"ColorFondo", C::Apariencia}),
-        propiedad<&T::ColorFondoSobre, &T::PonColorFondoSobre>({L"ColorFondoSobre", C::Apariencia}),
-        propiedad<&T::ColorFonTexto, &T::PonColorFonTexto>({L"ColorFonTexto", C::Apariencia}),
-        propiedad<&T::ColorFonTextoS, &T::PonColorFonTextoS>({L"ColorFonTextoS", C::Apariencia}),
-        propiedad<&T::SelLength, &T::PonSelLength>({L"SelLength", C::Datos}),
-        propiedad<&T::SelStart, &T::PonSelStart>({L"SelStart", C::Datos}),
-        soloLectura<&T::SelText>({L"SelText", C::Datos}),
-        propiedad<&T::Tranca, &T::PonTranca>({L"Tranca", C::Comportamiento}),
-        propiedad<&T::MouseIcon, &T::PonMouseIcon>({L"MouseIcon", C::Otras}),
-        metodo<&T::ActualizarColores>(L"ActualizarColores", 0x6003002A, Parametro{L"Sobre"}),
-        propiedad<&T::MousePointer, &T::PonMousePointer>({L"MousePointer", C::Otras}),
-        propiedad<&T::ToolTipText, &T::PonToolTipText>({L"ToolTipText", C::Otras}),
-        propiedad<&T::BackStyle, &T::PonBackStyle>({L"BackStyle", C::Apariencia}),
+        propiedad<&T::FuenteTexto, &T::PonFuenteTexto>({0x68030018, L"Fuente", C::Fuente}),
+        propiedad<&T::ColorLetra, &T::PonColorLetra>({0x68030017, L"ColorLetra", C::Apariencia}),
+        propiedad<&T::ColorLetraSobre, &T::PonColorLetraSobre>(
+            {0x68030016, L"ColorLetraSobre", C::Apariencia}),
+        propiedad<&T::ColorFondo, &T::PonColorFondo>({0x68030015, L"ColorFondo", C::Apariencia}),
+        propiedad<&T::ColorFondoSobre, &T::PonColorFondoSobre>(
+            {0x68030014, L"ColorFondoSobre", C::Apariencia}),
+        propiedad<&T::ColorFonTexto, &T::PonColorFonTexto>(
+            {0x68030013, L"ColorFonTexto", C::Apariencia}),
+        propiedad<&T::ColorFonTextoS, &T::PonColorFonTextoS>(
+            {0x68030012, L"ColorFonTextoS", C::Apariencia}),
+        propiedad<&T::SelLength, &T::PonSelLength>({0x68030011, L"SelLength", C::Datos}),
+        propiedad<&T::SelStart, &T::PonSelStart>({0x68030010, L"SelStart", C::Datos}),
+        soloLectura<&T::SelText>({0x6803000F, L"SelText", C::Datos}),
+        propiedad<&T::Tranca, &T::PonTranca>({0x6803000E, L"Tranca", C::Comportamiento}),
+        propiedad<&T::MouseIcon, &T::PonMouseIcon>({0x6803000D, L"MouseIcon", C::Otras}),
+        metodo<&T::ActualizarColores>(0x6003002A, L"ActualizarColores", Parametro{L"Sobre"}),
+        propiedad<&T::MousePointer, &T::PonMousePointer>({0x6803000C, L"MousePointer", C::Otras}),
+        propiedad<&T::ToolTipText, &T::PonToolTipText>({0x6803000B, L"ToolTipText", C::Otras}),
+        propiedad<&T::BackStyle, &T::PonBackStyle>({0x6803000A, L"BackStyle", C::Apariencia}),
         propiedad<&T::SelecConFoco, &T::PonSelecConFoco>(
-            {L"SelecConFoco", C::Comportamiento,
+            {0x68030009, L"SelecConFoco", C::Comportamiento,
              L"Sirve pa seleccionar el texto cuando el objeto obtenga el foco"}),
-        propiedad<&T::Separa, &T::PonSepara>({L"Separa", C::Apariencia}),
-        propiedad<&T::Enabled, &T::PonEnabled>({L"Enabled", C::Comportamiento}),
-        propiedad<&T::TipoTexto, &T::PonTipoTexto>({L"TipoTexto", C::Comportamiento}),
-        propiedad<&T::Apariencia, &T::PonApariencia>({L"Apariencia", C::Apariencia}),
-        propiedad<&T::NavConEnter, &T::PonNavConEnter>({L"NavConEnter", C::Comportamiento}),
-        propiedad<&T::FocoVisible, &T::PonFocoVisible>({L"FocoVisible", C::Comportamiento}),
-        propiedad<&T::FocoConMouse, &T::PonFocoConMouse>({L"FocoConMouse", C::Comportamiento}),
-        propiedad<&T::SeparaBorde, &T::PonSeparaBorde>({L"SeparaBorde", C::Apariencia}),
-        propiedad<&T::TipoLetra, &T::PonTipoLetra>({L"TipoLetra", C::Apariencia}),
+        propiedad<&T::Separa, &T::PonSepara>({0x68030008, L"Separa", C::Apariencia}),
+        propiedad<&T::Enabled, &T::PonEnabled>({0x68030007, L"Enabled", C::Comportamiento}),
+        propiedad<&T::TipoTexto, &T::PonTipoTexto>({0x68030006, L"TipoTexto", C::Comportamiento}),
+        propiedad<&T::Apariencia, &T::PonApariencia>({0x68030005, L"Apariencia", C::Apariencia}),
+        propiedad<&T::NavConEnter, &T::PonNavConEnter>(
+            {0x68030004, L"NavConEnter", C::Comportamiento}),
+        propiedad<&T::FocoVisible, &T::PonFocoVisible>(
+            {0x68030003, L"FocoVisible", C::Comportamiento}),
+        propiedad<&T::FocoConMouse, &T::PonFocoConMouse>(
+            {0x68030002, L"FocoConMouse", C::Comportamiento}),
+        propiedad<&T::SeparaBorde, &T::PonSeparaBorde>({0x68030001, L"SeparaBorde", C::Apariencia}),
+        propiedad<&T::TipoLetra, &T::PonTipoLetra>({0x68030000, L"TipoLetra", C::Apariencia}),
     };
     static constexpr auto eventos = EventosDeTexto;
 };
