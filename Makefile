@@ -14,6 +14,7 @@ ayuda:
 	  'make ocx     build/win64/Pincela.ocx and build/win32/Pincela.ocx' \
 	  'make demo    the gallery: every control on one form' \
 	  'make test    every test: natively, and under 64- and 32-bit Wine' \
+  '             (one: ctest --preset nativo|win64|win32 -R NAME)' \
 	  'make bench   the measurements' \
 	  'make fuzz    a minute of made-up input for each reader of text and bytes' \
 	  'make soak    half an hour of use, looking for what is left behind' \

@@ -66,6 +66,13 @@ despertar() {
     con_cerrojo "$WINEPREFIX.cerrojo" "$RAIZ/herramientas/prefijo" despertar "$BITS"
 }
 
+# The component that the run is about, registered in the same session.
+registrar_antes() {
+    [ -n "${PINCELA_COMPONENTE:-}" ] || return 0
+    "${LANZADOR[@]}" timeout 120 "$WINE" regsvr32 /s "$(ruta_windows "$PINCELA_COMPONENTE")" \
+        </dev/null >/dev/null 2>&1 || morir "regsvr32 failed on $PINCELA_COMPONENTE"
+}
+
 # A screen of our own for one run, closed with it. One run at a time in the prefix, because Wine's
 # desktop dies with its screen.
 correr_en_xvfb() {
@@ -80,6 +87,7 @@ correr_en_xvfb() {
     read -r -t 20 -u "$aviso" numero || morir "Xvfb did not start"
     export DISPLAY=":$numero"
     despertar
+    registrar_antes
     "${LANZADOR[@]}" "$WINE" "$@" || estado=$?
     "${LANZADOR[@]}" wineserver -k >/dev/null 2>&1 || true
     "${LANZADOR[@]}" timeout 20 wineserver -w >/dev/null 2>&1 || true
@@ -96,7 +104,8 @@ correr() {
         --ppp) export PINCELA_PPP="${2:-}" ;;
         --uso) export PINCELA_USO="${2:-}" ;;
         --idioma) export PINCELA_IDIOMA="${2:-}" ;;
-        '' | -*) morir "usage: wine$bits [--pantalla nula|xvfb|propia] [--ppp N] [--uso NAME] [--idioma LOCALE] PROGRAM..." ;;
+        --componente) export PINCELA_COMPONENTE="${2:-}" ;;
+        '' | -*) morir "usage: wine$bits [--pantalla nula|xvfb|propia] [--ppp N] [--uso NAME] [--idioma LOCALE] [--componente FILE] PROGRAM..." ;;
         *) break ;;
         esac
         shift 2
@@ -108,5 +117,6 @@ correr() {
     fi
     [ "$PANTALLA" = propia ] || unset DISPLAY
     despertar
+    registrar_antes
     exec "${LANZADOR[@]}" "$WINE" "$@"
 }

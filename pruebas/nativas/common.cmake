@@ -1,4 +1,4 @@
 foreach(tema texto errores enumeraciones numeros lectura_numeros escritura_numeros decimal_exacto variantes
              igualdad guardado)
-    pincela_prueba_nativa(prueba_${tema} prueba_${tema}.cpp USA pincela_common)
+    pincela_prueba(prueba_${tema} prueba_${tema}.cpp USA pincela_common)
 endforeach()

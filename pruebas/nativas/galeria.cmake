@@ -1,3 +1,3 @@
 foreach(tema agarres gesto historia)
-    pincela_prueba_nativa(prueba_diseno_${tema} prueba_diseno_${tema}.cpp USA pincela_diseno)
+    pincela_prueba(prueba_diseno_${tema} prueba_diseno_${tema}.cpp USA pincela_diseno)
 endforeach()

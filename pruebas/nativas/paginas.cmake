@@ -4,6 +4,6 @@ target_link_libraries(pincela_grabador_paginas PUBLIC pincela_paginas pincela_gr
 
 foreach(tema general general_edicion general_extremos colores colores_filas colores_edicion area
              errores numeros)
-    pincela_prueba_nativa(prueba_pagina_${tema} prueba_pagina_${tema}.cpp
+    pincela_prueba(prueba_pagina_${tema} prueba_pagina_${tema}.cpp
         USA pincela_grabador_paginas)
 endforeach()
