@@ -59,7 +59,7 @@ Variante BolsaCom::ReadProperty(VistaTexto clave, const Variante& porDefecto) {
 }
 
 void BolsaCom::WriteProperty(VistaTexto clave, const Variante& valor, const Variante& porDefecto) {
-    if (IgualesPorAutomatizacion(valor, porDefecto))
+    if (!todas_ && IgualesPorAutomatizacion(valor, porDefecto))
         return;
     const Texto nombre(clave);
     VarianteCom v;

@@ -14,7 +14,9 @@ namespace pincela::componente {
 /// The container's bag. Not counted: used within one call.
 class BolsaCom final : public BolsaPropiedades {
   public:
-    BolsaCom(IPropertyBag* bolsa, IErrorLog* errores) : bolsa_(bolsa), errores_(errores) {}
+    /// With `todas` what equals its default is written too.
+    BolsaCom(IPropertyBag* bolsa, IErrorLog* errores, bool todas = false)
+        : bolsa_(bolsa), errores_(errores), todas_(todas) {}
 
     Variante ReadProperty(VistaTexto clave, const Variante& porDefecto) override;
     void WriteProperty(VistaTexto clave, const Variante& valor,
@@ -23,6 +25,7 @@ class BolsaCom final : public BolsaPropiedades {
   private:
     IPropertyBag* bolsa_;
     IErrorLog* errores_;
+    bool todas_;
 };
 
 /// A bag in memory: what streams and storages carry, and what a failed load is undone from.

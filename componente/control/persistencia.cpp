@@ -221,12 +221,12 @@ HRESULT ObjetoControl::Load(IPropertyBag* bolsa, IErrorLog* errores) {
     });
 }
 
-HRESULT ObjetoControl::Save(IPropertyBag* bolsa, BOOL limpiar, BOOL) {
+HRESULT ObjetoControl::Save(IPropertyBag* bolsa, BOOL limpiar, BOOL todas) {
     if (!bolsa)
         return E_POINTER;
     return Guardar([&] {
         Preparar();
-        BolsaCom propia(bolsa, nullptr);
+        BolsaCom propia(bolsa, nullptr, todas != FALSE);
         nucleo_->WriteProperties(propia);
         if (limpiar)
             sucio_ = false;

@@ -104,6 +104,22 @@ TEST_CASE("A new text box writes only the keys that are empty and, labelled, its
     CHECK(bolsa->Buscar(L"EstilosBord")->vt == VT_EMPTY);
 }
 
+TEST_CASE("A text box writes every one of its keys for a container that wants them all") {
+    const CajaNueva caja(CadaClase());
+    const auto bolsa = Hacer<BolsaMemoria>();
+    REQUIRE(caja.Como<IPersistPropertyBag>()->Save(bolsa.get(), TRUE, TRUE) == S_OK);
+    const std::string claves = " " + Claves(*bolsa.get(), true) + " ";
+    for (const char* clave :
+         {"TipoTexto", "Apariencia", "FocoVisible", "EfectoBoton", "Estilos", "EstilosBord",
+          "SeparaBorde", "ColorLetraE", "Fuente", "MouseIcon", "Enabled", "MaxText"}) {
+        INFO(clave);
+        CHECK(claves.find(std::string(" ") + clave + " ") != std::string::npos);
+    }
+    const Caja otra(caja.clase.c_str());
+    REQUIRE(otra.Como<IPersistPropertyBag>()->Load(bolsa.get(), nullptr) == S_OK);
+    Comparar(RetratoDe(otra), RetratoDe(caja));
+}
+
 TEST_CASE("A text box comes back from its bag with every property") {
     const Caja una(CadaClase());
     CambiarTodas(una);

@@ -53,6 +53,18 @@ TEST_CASE("the keys are written in the panel's own order") {
                                    "ToolTipText", "TipoLetra", "Enabled"});
 }
 
+TEST_CASE("a container that wants all of a panel gets what equals its defaults too") {
+    const Panel panel;
+    const auto bolsa = Hacer<BolsaMemoria>();
+    REQUIRE(panel.Como<IPersistPropertyBag>()->Load(bolsa.get(), nullptr) == S_OK);
+    REQUIRE(panel.Como<IPersistPropertyBag>()->Save(bolsa.get(), TRUE, TRUE) == S_OK);
+    CHECK(Claves(*bolsa.get()) ==
+          std::vector<std::string>{"BackStyle", "SeparaBorde", "EstilosBord", "AnchoBorde",
+                                   "EstilosRell", "AlinText", "Caption", "ColorLetra", "ColorFondo",
+                                   "ColorDegrade", "Font", "MouseIcon", "MousePointer",
+                                   "ToolTipText", "TipoLetra", "Enabled"});
+}
+
 TEST_CASE("a panel comes back as it was from a bag, a stream and a storage") {
     const Panel uno, otro;
     CambiarPanel(uno.get());

@@ -66,6 +66,47 @@ TEST_CASE("The keys are written in their order, the pointer's picture is not amo
     CHECK(bolsa->Buscar(L"MousePointer")->vt == VT_I2);
 }
 
+TEST_CASE("A container that wants all of it gets the values that equal their defaults too") {
+    const Boton boton;
+    REQUIRE(boton.Como<IPersistPropertyBag>()->InitNew() == S_OK);
+    const auto bolsa = Hacer<BolsaMemoria>();
+    REQUIRE(boton.Como<IPersistPropertyBag>()->Save(bolsa.get(), TRUE, TRUE) == S_OK);
+    CompararListas(Estrechas(bolsa->Claves(true)), {"FocoVisible",
+                                                    "FocoConMouse",
+                                                    "EfectoBoton",
+                                                    "RelX",
+                                                    "RelY",
+                                                    "Estilos",
+                                                    "EstilosBord",
+                                                    "AnchoBorde",
+                                                    "EstilosRell",
+                                                    "Angulo",
+                                                    "AlinImag",
+                                                    "AlinText",
+                                                    "Caption",
+                                                    "ColorLetra",
+                                                    "ColorLetraSobre",
+                                                    "ColorFondo",
+                                                    "ColorFondoSobre",
+                                                    "ColorDegradeN",
+                                                    "ColorDegradeS",
+                                                    "Font",
+                                                    "MousePointer",
+                                                    "ToolTipText",
+                                                    "TipoLetra",
+                                                    "ImagNormal",
+                                                    "ImagSobre",
+                                                    "Expandir",
+                                                    "Enabled",
+                                                    "CambioProgre",
+                                                    "CambioProgrePasos"});
+    REQUIRE(bolsa->Buscar(L"EstilosBord"));
+    CHECK(anfitrion::Entero(*bolsa->Buscar(L"EstilosBord")) == 1);
+    const Boton otro;
+    REQUIRE(otro.Como<IPersistPropertyBag>()->Load(bolsa.get(), nullptr) == S_OK);
+    CompararListas(Retrato(otro.get()), Retrato(boton.get()));
+}
+
 TEST_CASE("A button reads its keys in their order, and defaults stand in for missing ones") {
     const Boton boton;
     CambiarTodo(boton.get()); // what was there before does not shine through
