@@ -98,8 +98,12 @@ class Area final : public ControlUsuario {
     void Terminate() override;
 
     void AmbientFontChanged(const AtributosFuente& anterior, const Fuente& nueva) override;
+    void OlvidarEntrada() override { m_TeclaAbajo = false; }
     /// The marks are a designer's.
-    void UserModeChanged() override { Show(); }
+    void UserModeChanged() override {
+        OlvidarEntrada();
+        Show();
+    }
     Accesible Describir() const override;
     void AccionPorDefecto() override { Click(); }
 

@@ -106,7 +106,7 @@ class Botonazo final : public ControlUsuario {
     // What the host asks beside the life of the control (accesible.cpp).
     void AmbientFontChanged(const AtributosFuente& anterior, const Fuente& nueva) override;
     void AmbientChanged() override;
-    void UserModeChanged() override;
+    void OlvidarEntrada() override;
     Accesible Describir() const override;
     void AccionPorDefecto() override;
 

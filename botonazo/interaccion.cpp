@@ -91,7 +91,7 @@ void Botonazo::DejarAspectoSobre() {
 }
 
 // A form that is being designed has no events, so nobody is told that the mouse left.
-void Botonazo::UserModeChanged() {
+void Botonazo::OlvidarEntrada() {
     m_TeclaAbajo = false;
     const bool habiaAspecto = m_Sobre || m_Presionado;
     if (m_Presionado)

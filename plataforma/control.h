@@ -38,9 +38,11 @@ class ControlUsuario : public OyenteRaton, public OyenteTeclado {
     /// Another of the container's properties that the look depends on changed.
     virtual void AmbientChanged() {}
 
-    /// The container went from running to designing, or back: what the mouse and the keys had begun
-    /// ends here.
-    virtual void UserModeChanged() {}
+    /// Input ceases to reach the control, or reaches it again: what the mouse and the keys had
+    /// begun ends here, without an event.
+    virtual void OlvidarEntrada() {}
+    /// The container went from running to designing, or back.
+    virtual void UserModeChanged() { OlvidarEntrada(); }
 
     /// What a screen reader says of the control at this moment.
     virtual Accesible Describir() const { return {}; }

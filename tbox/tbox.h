@@ -44,7 +44,7 @@ class Tbox : public CajaBase {
     void AccessKeyPress(std::int16_t caracter) override;
     void AmbientFontChanged(const AtributosFuente& anterior, const Fuente& nueva) override;
     void Click() override;
-    void UserModeChanged() override;
+    void OlvidarEntrada() override;
 
   protected:
     void Entrar() override;

@@ -61,7 +61,7 @@ bool Tbox::CursorEncima() {
 }
 
 // A form that is being designed has no events, so nobody is told that the mouse left.
-void Tbox::UserModeChanged() {
+void Tbox::OlvidarEntrada() {
     Timer->PonEnabled(false);
     m_EstaSobre = false;
     if (!txtTexto->EsActivo())

@@ -14,7 +14,9 @@ bool ObjetoControl::LeerAmbiente(DISPID dispid, VARTYPE tipo, VARIANT* valor) {
 
 void ObjetoControl::OlvidarAmbiente() {
     modoUsuario_ = -1;
+    interfazMuerta_ = -1;
     porDefecto_ = -1;
+    idioma_.reset();
 }
 
 bool ObjetoControl::UserMode() {
@@ -26,6 +28,30 @@ bool ObjetoControl::UserMode() {
             modoUsuario_ = V_BOOL(&valor) != VARIANT_FALSE;
     }
     return modoUsuario_ != 0;
+}
+
+/// The container shows its controls, but keeps them from the user (a program halted in a debugger).
+bool ObjetoControl::InterfazMuerta() {
+    if (interfazMuerta_ < 0) {
+        interfazMuerta_ = 0;
+        VarianteCom valor;
+        if (LeerAmbiente(DISPID_AMBIENT_UIDEAD, VT_BOOL, &valor))
+            interfazMuerta_ = V_BOOL(&valor) != VARIANT_FALSE;
+    }
+    return interfazMuerta_ != 0;
+}
+
+/// In which events are told and property pages shown. Nothing else depends on it: all texts of the
+/// component exist in one language, and numbers in texts follow the user's settings, which every
+/// control and page of the process shares.
+LCID ObjetoControl::Idioma() {
+    if (!idioma_) {
+        idioma_ = LOCALE_USER_DEFAULT;
+        VarianteCom valor;
+        if (LeerAmbiente(DISPID_AMBIENT_LOCALEID, VT_I4, &valor) && V_I4(&valor) != 0)
+            idioma_ = static_cast<LCID>(V_I4(&valor));
+    }
+    return *idioma_;
 }
 
 bool ObjetoControl::DisplayAsDefault() {
@@ -94,7 +120,7 @@ void ObjetoControl::AccessKeysChanged() {
 
 HRESULT ObjetoControl::OnMnemonic(MSG* mensaje) {
     return Guardar([&] {
-        if (UserMode() && vida_ == Vida::Viva)
+        if (!EntradaCongelada() && vida_ == Vida::Viva)
             nucleo_->AccessKeyPress(
                 static_cast<std::int16_t>(mensaje ? mensaje->wParam & 0x7FFF : 0));
         return S_OK;
@@ -107,10 +133,15 @@ HRESULT ObjetoControl::OnAmbientPropertyChange(DISPID dispid) {
         auto es = [dispid](DISPID una) { return dispid == una || dispid == DISPID_UNKNOWN; };
         const bool eraPorDefecto = porDefecto_ > 0;
         const int eraModoUsuario = modoUsuario_;
+        const bool estabaMuerta = interfazMuerta_ > 0;
         if (es(DISPID_AMBIENT_DISPLAYASDEFAULT))
             porDefecto_ = -1;
         if (es(DISPID_AMBIENT_USERMODE))
             modoUsuario_ = -1;
+        if (es(DISPID_AMBIENT_UIDEAD))
+            interfazMuerta_ = -1;
+        if (es(DISPID_AMBIENT_LOCALEID))
+            idioma_.reset();
         if (vida_ != Vida::Viva)
             return S_OK;
         if (es(DISPID_AMBIENT_FONT))
@@ -119,8 +150,15 @@ HRESULT ObjetoControl::OnAmbientPropertyChange(DISPID dispid) {
             nucleo_->AmbientChanged();
         // A mode that nobody has asked for can't have begun anything.
         if (es(DISPID_AMBIENT_USERMODE) && eraModoUsuario >= 0 &&
-            UserMode() != (eraModoUsuario > 0))
+            UserMode() != (eraModoUsuario > 0)) {
+            entorno_.SoltarRaton();
             nucleo_->UserModeChanged();
+        }
+        if (es(DISPID_AMBIENT_UIDEAD) && InterfazMuerta() != estabaMuerta) {
+            entorno_.SoltarRaton();
+            nucleo_->OlvidarEntrada();
+        }
+        entorno_.ActualizarFoco();
         // What is transparent shows the container's colours.
         if (es(DISPID_AMBIENT_BACKCOLOR) && entorno_.Ventana())
             InvalidateRect(entorno_.Ventana(), nullptr, FALSE);

@@ -43,15 +43,15 @@ void ObjetoControl::RaiseEvent(DISPID evento, VARIANTARG* argumentos, unsigned c
     if (congelados_ > 0 || cerrando_)
         return;
     detalle::Sosten sosten(Identidad());
+    const LCID idioma = Idioma();
     eventos_.ParaCadaUno([&](IUnknown* sumidero) {
         // Each sink has a list of its own to spoil; the variables behind it are shared.
         VARIANTARG lista[MasArgumentos] = {};
         std::copy_n(argumentos, std::min(cuantos, MasArgumentos), lista);
         DISPPARAMS parametros{lista, nullptr, std::min(cuantos, MasArgumentos), 0};
         // A sink that fails does not keep the others from hearing.
-        static_cast<IDispatch*>(sumidero)->Invoke(evento, IID_NULL, LOCALE_USER_DEFAULT,
-                                                  DISPATCH_METHOD, &parametros, nullptr, nullptr,
-                                                  nullptr);
+        static_cast<IDispatch*>(sumidero)->Invoke(evento, IID_NULL, idioma, DISPATCH_METHOD,
+                                                  &parametros, nullptr, nullptr, nullptr);
     });
 }
 

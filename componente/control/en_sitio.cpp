@@ -1,54 +1,47 @@
 // In-place activation: the control in a window of its container.
 #include "componente/control/objeto_control.h"
 
+#include <algorithm>
+
 namespace pincela::componente {
+
+namespace {
+
+/// A container that does not implement a call leaves what it is about to the control; any other
+/// failure is its refusal.
+bool Rehusa(HRESULT estado) {
+    return FAILED(estado) && estado != E_NOTIMPL;
+}
+
+bool EsNada(const RECT& r) {
+    return r.left == 0 && r.top == 0 && r.right == 0 && r.bottom == 0;
+}
+
+/// Sizes of a rectangle of any container, inverted and endless ones included.
+SIZE MedidaDe(const RECT& r) {
+    const auto lado = [](std::int64_t desde, std::int64_t hasta) {
+        return static_cast<LONG>(std::clamp<std::int64_t>(hasta - desde, 0, MAXLONG));
+    };
+    return {lado(r.left, r.right), lado(r.top, r.bottom)};
+}
+
+/// The extent of a window that was given `pedida` and is `ventana` pixels large: the platform makes
+/// no side longer than a certain length, and a size that no screen has is kept all the same.
+SIZE MedidaPedida(SIZE ventana, SIZE pedida) {
+    const auto lado = [](LONG tiene, LONG pide) {
+        return tiene < windows::LadoMaximoDeVentana ? tiene : std::max(tiene, pide);
+    };
+    return {lado(ventana.cx, pedida.cx), lado(ventana.cy, pedida.cy)};
+}
+
+} // namespace
 
 HRESULT ObjetoControl::Activar(bool conFoco, HWND padre, const RECT* lugar) {
     Preparar();
     if (!activoEnSitio_) {
-        if (!sitio_ || saliendo_)
-            return OLE_E_NOT_INPLACEACTIVE;
-        Ptr<IOleInPlaceSite> sitio = Ptr<IOleInPlaceSite>::De(sitio_.get());
-        if (!sitio || sitio->CanInPlaceActivate() == S_FALSE)
-            return OLE_E_NOT_INPLACEACTIVE;
-        enSitio_ = sitio;
-        sitio->OnInPlaceActivate();
-        activoEnSitio_ = true;
-
-        HWND ventanaPadre = nullptr;
-        if (FAILED(sitio->GetWindow(&ventanaPadre)) || !ventanaPadre)
-            ventanaPadre = padre;
-        RECT posicion = lugar ? *lugar : RECT{};
-        RECT recorte{};
-        OLEINPLACEFRAMEINFO info{};
-        info.cb = sizeof info;
-        RECT pedida{};
-        if (SUCCEEDED(sitio->GetWindowContext(marco_.Recibir(), documento_.Recibir(), &pedida,
-                                              &recorte, &info)))
-            posicion = pedida;
-        if (!activoEnSitio_) // closed from inside one of those calls
-            return E_UNEXPECTED;
-        PonPppDe(ventanaPadre);
-        HWND ventana = nullptr;
-        try {
-            ventana = entorno_.CrearVentana(ventanaPadre, posicion);
-        } catch (...) {
-            saliendo_ = true;
-            entorno_.DestruirVentana();
-            saliendo_ = false;
-            OlvidarSitioEnSitio();
-            throw;
-        }
-        if (!ventana) {
-            OlvidarSitioEnSitio();
-            return E_FAIL;
-        }
-        extension_ = AHimetric(entorno_.Tamano());
-        NucleoSeguro([](ControlUsuario& nucleo) { nucleo.Resize(); });
-        if (activoEnSitio_)
-            NucleoSeguro([](ControlUsuario& nucleo) { nucleo.Show(); });
-        if (activoEnSitio_ && sitio_)
-            Ptr<IOleClientSite>(sitio_)->ShowObject();
+        const HRESULT entrada = EntrarEnSitio(padre, lugar);
+        if (FAILED(entrada))
+            return entrada;
     } else if (entorno_.Ventana() && !IsWindowVisible(entorno_.Ventana())) {
         ShowWindow(entorno_.Ventana(), SW_SHOWNA);
         NucleoSeguro([](ControlUsuario& nucleo) { nucleo.Show(); });
@@ -57,16 +50,103 @@ HRESULT ObjetoControl::Activar(bool conFoco, HWND padre, const RECT* lugar) {
     return conFoco && activoEnSitio_ && nucleo_->AceptaFoco() ? ActivarInterfaz() : S_OK;
 }
 
+HRESULT ObjetoControl::EntrarEnSitio(HWND padre, const RECT* lugar) {
+    const Ptr<IOleInPlaceSite> sitio = saliendo_ ? nullptr : Ptr<IOleInPlaceSite>::De(sitio_.get());
+    if (!sitio)
+        return OLE_E_NOT_INPLACEACTIVE;
+    const HRESULT puede = sitio->CanInPlaceActivate();
+    if (puede == S_FALSE)
+        return OLE_E_NOT_INPLACEACTIVE;
+    if (Rehusa(puede))
+        return puede;
+    if (activoEnSitio_) // activated from inside the question
+        return S_OK;
+    if (!sitio_ || saliendo_)
+        return E_UNEXPECTED;
+    // From here on whoever closes the control from inside a call finds something to close.
+    enSitio_ = sitio;
+    activoEnSitio_ = true;
+    const HRESULT admitido = sitio->OnInPlaceActivate();
+    if (!activoEnSitio_)
+        return E_UNEXPECTED;
+    if (Rehusa(admitido)) { // it never was in place, so it doesn't leave it either
+        activoEnSitio_ = false;
+        enSitio_.Soltar();
+        return admitido;
+    }
+    const HRESULT hecha = entorno_.Ventana() ? S_OK : HacerVentana(*sitio.get(), padre, lugar);
+    if (FAILED(hecha)) {
+        OlvidarSitioEnSitio();
+        return hecha;
+    }
+    NucleoSeguro([](ControlUsuario& nucleo) { nucleo.Resize(); });
+    if (activoEnSitio_)
+        NucleoSeguro([](ControlUsuario& nucleo) { nucleo.Show(); });
+    if (activoEnSitio_ && sitio_)
+        Ptr<IOleClientSite>(sitio_)->ShowObject();
+    return S_OK;
+}
+
+HRESULT ObjetoControl::HacerVentana(IOleInPlaceSite& sitio, HWND padre, const RECT* lugar) {
+    HWND ventanaPadre = nullptr;
+    const HRESULT conVentana = sitio.GetWindow(&ventanaPadre);
+    if (Rehusa(conVentana))
+        return conVentana;
+    if (FAILED(conVentana) || !ventanaPadre)
+        ventanaPadre = padre;
+    Ptr<IOleInPlaceFrame> marco;
+    Ptr<IOleInPlaceUIWindow> documento;
+    RECT pedida{}, recorte{};
+    OLEINPLACEFRAMEINFO info{};
+    info.cb = sizeof info;
+    const HRESULT conContexto =
+        sitio.GetWindowContext(marco.Recibir(), documento.Recibir(), &pedida, &recorte, &info);
+    if (FAILED(conContexto)) { // what a failed call leaves behind belongs to nobody
+        marco.Ceder();
+        documento.Ceder();
+    }
+    if (Rehusa(conContexto))
+        return conContexto;
+    // A container that says that all went well and gives no place means the one of the verb.
+    if (lugar && (FAILED(conContexto) || EsNada(pedida)))
+        pedida = *lugar;
+    if (!activoEnSitio_) // closed from inside one of those calls
+        return E_UNEXPECTED;
+    if (entorno_.Ventana()) // or activated once more
+        return S_OK;
+    marco_ = std::move(marco);
+    documento_ = std::move(documento);
+    PonPppDe(ventanaPadre);
+    try {
+        if (!entorno_.CrearVentana(ventanaPadre, pedida))
+            return activoEnSitio_ ? E_FAIL : E_UNEXPECTED;
+    } catch (...) {
+        saliendo_ = true;
+        entorno_.DestruirVentana();
+        saliendo_ = false;
+        OlvidarSitioEnSitio();
+        throw;
+    }
+    extension_ = AHimetric(MedidaPedida(entorno_.Tamano(), MedidaDe(pedida)));
+    return S_OK;
+}
+
+// A container that refuses is obeyed: no focus is taken, nothing of its frame is claimed. Where the
+// platform itself gives the focus to the window it stays there, for whoever gave it wanted that;
+// the container hears of it and is asked again at the next occasion.
 HRESULT ObjetoControl::ActivarInterfaz() {
     if (activaLaInterfaz_)
         return S_OK;
     if (!activoEnSitio_)
         return OLE_E_NOT_INPLACEACTIVE;
     activaLaInterfaz_ = true;
-    if (enSitio_)
-        Ptr<IOleInPlaceSite>(enSitio_)->OnUIActivate();
+    const HRESULT admitida = enSitio_ ? Ptr<IOleInPlaceSite>(enSitio_)->OnUIActivate() : S_OK;
     if (!activaLaInterfaz_)
         return S_OK;
+    if (Rehusa(admitida)) {
+        activaLaInterfaz_ = false;
+        return admitida;
+    }
     AvisarVentanasDelMarco(this);
     if (marco_)
         Ptr<IOleInPlaceFrame>(marco_)->SetBorderSpace(nullptr);
@@ -153,8 +233,10 @@ void ObjetoControl::Mover(const RECT& lugar, const RECT*) {
     const SIZE antes = entorno_.Tamano();
     entorno_.MoverVentana(lugar);
     const SIZE ahora = entorno_.Tamano();
-    if (antes.cx != ahora.cx || antes.cy != ahora.cy)
-        extension_ = AHimetric(ahora);
+    const SIZE pedida = MedidaPedida(ahora, MedidaDe(lugar));
+    if (antes.cx != ahora.cx || antes.cy != ahora.cy || pedida.cx != ahora.cx ||
+        pedida.cy != ahora.cy)
+        extension_ = AHimetric(pedida);
 }
 
 HRESULT ObjetoControl::ReactivateAndUndo() {
@@ -243,7 +325,7 @@ void ObjetoControl::PedirFoco() {
     if (!activoEnSitio_ || EntradaCongelada() || !nucleo_->AceptaFoco())
         return;
     ActivarInterfaz();
-    if (activoEnSitio_ && !entorno_.TieneFoco())
+    if (activoEnSitio_ && activaLaInterfaz_ && !entorno_.TieneFoco())
         SetFocus(entorno_.VentanaDeFoco());
 }
 
@@ -260,7 +342,7 @@ void ObjetoControl::FocoCambiado(bool dentro) {
 }
 
 bool ObjetoControl::EntradaCongelada() {
-    return !UserMode();
+    return !UserMode() || InterfazMuerta();
 }
 
 } // namespace pincela::componente

@@ -134,6 +134,8 @@ ObjetoAccesible* ObjetoControl::DarAccesible(HWND ventana) {
             {[this] { return nucleo_->Describir(); }, [this] { return conFoco_; },
              [this] {
                  detalle::Sosten sosten(Identidad());
+                 if (EntradaCongelada())
+                     return;
                  NucleoSeguro([](ControlUsuario& n) { n.AccionPorDefecto(); });
              },
              [this] { PedirFoco(); }}));

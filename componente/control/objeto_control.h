@@ -237,6 +237,8 @@ class ObjetoControl final : public IOleObject,
     // In place: see en_sitio.cpp.
     HRESULT MostrarPaginas(HWND padre);
     HRESULT Activar(bool conFoco, HWND padre, const RECT* lugar);
+    HRESULT EntrarEnSitio(HWND padre, const RECT* lugar);
+    HRESULT HacerVentana(IOleInPlaceSite& sitio, HWND padre, const RECT* lugar);
     HRESULT ActivarInterfaz();
     void AvisarVentanasDelMarco(IOleInPlaceActiveObject* activo);
     void Mover(const RECT& lugar, const RECT* recorte);
@@ -248,12 +250,17 @@ class ObjetoControl final : public IOleObject,
     bool LeerAmbiente(DISPID dispid, VARTYPE tipo, VARIANT* valor);
     void OlvidarAmbiente();
     void CambioDeFuenteAmbiente();
+    bool InterfazMuerta();
+    LCID Idioma();
 
     // Resolution and assistive programs: see entorno_visual.cpp.
     void PonPppDe(HWND ventana);
     ObjetoAccesible* DarAccesible(HWND ventana);
     ObjetoAccesible* DarAccesibleDeCampo(HWND ventana);
 
+    bool EsOpaca();
+    HRESULT DarMetafichero(STGMEDIUM& medio);
+    HRESULT DarMetaficheroClasico(STGMEDIUM& medio);
     void AvisarVista();
     void AvisarCambio(DISPID dispid);
     const MiembroTardio* MiembroConNombre(VistaTexto nombre) const;
@@ -272,7 +279,9 @@ class ObjetoControl final : public IOleObject,
     Ptr<IOleControlSite> sitioDeControl_;
     Ptr<ISimpleFrameSite> marcoSimple_; // of a control that holds others
     Ptr<IDispatch> ambiente_;
-    int modoUsuario_ = -1; // -1 not asked yet
+    int modoUsuario_ = -1;       // -1 not asked yet
+    int interfazMuerta_ = -1;    // the same
+    std::optional<LCID> idioma_; // of what is told to the container
     long congelados_ = 0;
 
     Ptr<IOleInPlaceSite> enSitio_;

@@ -2,18 +2,41 @@
 #include "componente/control/enumeradores.h"
 #include "componente/control/objeto_control.h"
 
+#include <algorithm>
 #include <cwchar>
+#include <utility>
 
 namespace pincela::componente {
 
+namespace {
+
+constexpr int HimetricPorPulgada = 2540;
+
+/// As the platform rounds it; what is too long for the result is as long as the result can be.
+LONG Escalar(LONG valor, int por, int entre) {
+    const std::int64_t producto = std::int64_t{valor} * por;
+    const std::int64_t medio = producto < 0 ? -entre / 2 : entre / 2;
+    return static_cast<LONG>(
+        std::clamp<std::int64_t>((producto + medio) / entre, -MAXLONG, MAXLONG));
+}
+
+LONG Sumar(LONG a, LONG b) {
+    return static_cast<LONG>(
+        std::clamp<std::int64_t>(std::int64_t{a} + b, std::int64_t{-MAXLONG} - 1, MAXLONG));
+}
+
+} // namespace
+
 SIZE ObjetoControl::AHimetric(SIZE pixeles) const {
     const int ppp = entorno_.Ppp();
-    return {MulDiv(pixeles.cx, 2540, ppp), MulDiv(pixeles.cy, 2540, ppp)};
+    return {Escalar(pixeles.cx, HimetricPorPulgada, ppp),
+            Escalar(pixeles.cy, HimetricPorPulgada, ppp)};
 }
 
 SIZE ObjetoControl::APixeles(SIZE himetric) const {
     const int ppp = entorno_.Ppp();
-    return {MulDiv(himetric.cx, ppp, 2540), MulDiv(himetric.cy, ppp, 2540)};
+    return {Escalar(himetric.cx, ppp, HimetricPorPulgada),
+            Escalar(himetric.cy, ppp, HimetricPorPulgada)};
 }
 
 HRESULT ObjetoControl::SetClientSite(IOleClientSite* sitio) {
@@ -100,8 +123,8 @@ HRESULT ObjetoControl::DoVerb(LONG verbo, MSG*, IOleClientSite*, LONG, HWND padr
         default:
             if (verbo < 0)
                 return E_NOTIMPL;
-            Activar(true, padre, lugar);
-            return OLEOBJ_S_INVALIDVERB;
+            const HRESULT activado = Activar(true, padre, lugar);
+            return FAILED(activado) ? activado : OLEOBJ_S_INVALIDVERB;
         }
     });
 }
@@ -115,21 +138,21 @@ HRESULT ObjetoControl::MostrarPaginas(HWND padre) {
     if (Datos().paginas.empty())
         return OLEOBJ_S_CANNOT_DOVERB_NOW;
     IUnknown* objeto = interfaz_.Com();
-    return OleCreatePropertyFrame(
-        padre, 0, 0, Datos().nombre, 1, &objeto, static_cast<ULONG>(Datos().paginas.size()),
-        const_cast<GUID*>(Datos().paginas.data()), LOCALE_USER_DEFAULT, 0, nullptr);
+    return OleCreatePropertyFrame(padre, 0, 0, Datos().nombre, 1, &objeto,
+                                  static_cast<ULONG>(Datos().paginas.size()),
+                                  const_cast<GUID*>(Datos().paginas.data()), Idioma(), 0, nullptr);
 }
 
 HRESULT ObjetoControl::EnumVerbs(IEnumOLEVERB** verbos) {
     if (!verbos)
         return E_POINTER;
     *verbos = nullptr;
+    if (Datos().paginas.empty())
+        return OLEOBJ_E_NOVERBS;
     return Guardar([&] {
         static wchar_t propiedades[] = L"&Propiedades";
-        std::vector<OLEVERB> lista;
-        if (!Datos().paginas.empty())
-            lista.push_back({OLEIVERB_PROPERTIES, propiedades, 0, OLEVERBATTRIB_ONCONTAINERMENU});
-        *verbos = new Enumerador<IEnumOLEVERB, OLEVERB>(Identidad(), std::move(lista));
+        *verbos = new Enumerador<IEnumOLEVERB, OLEVERB>(
+            Identidad(), {{OLEIVERB_PROPERTIES, propiedades, 0, OLEVERBATTRIB_ONCONTAINERMENU}});
         return S_OK;
     });
 }
@@ -165,7 +188,7 @@ HRESULT ObjetoControl::SetExtent(DWORD aspecto, SIZEL* tamanio) {
         extension_ = *tamanio;
         sucio_ = sucio_ || vida_ == Vida::Viva;
         // A control in place keeps the rectangle its container gave it until it gives another.
-        if (!activoEnSitio_)
+        if (!activoEnSitio_ || !entorno_.Ventana())
             entorno_.PonTamano(APixeles(extension_), vida_ == Vida::Viva);
         else if (enSitio_) {
             RECT lugar{};
@@ -173,8 +196,8 @@ HRESULT ObjetoControl::SetExtent(DWORD aspecto, SIZEL* tamanio) {
             MapWindowPoints(HWND_DESKTOP, GetParent(entorno_.Ventana()),
                             reinterpret_cast<POINT*>(&lugar), 2);
             const SIZE pixeles = APixeles(extension_);
-            lugar.right = lugar.left + pixeles.cx;
-            lugar.bottom = lugar.top + pixeles.cy;
+            lugar.right = Sumar(lugar.left, pixeles.cx);
+            lugar.bottom = Sumar(lugar.top, pixeles.cy);
             Ptr<IOleInPlaceSite>(enSitio_)->OnPosRectChange(&lugar);
         }
         AvisarVista();
@@ -196,6 +219,8 @@ HRESULT ObjetoControl::Advise(IAdviseSink* sumidero, DWORD* galleta) {
     if (!galleta)
         return E_POINTER;
     *galleta = 0;
+    if (!sumidero)
+        return E_POINTER;
     if (!avisosOle_) {
         const HRESULT estado = CreateOleAdviseHolder(avisosOle_.Recibir());
         if (FAILED(estado))
@@ -229,27 +254,47 @@ HRESULT ObjetoControl::SetColorScheme(LOGPALETTE*) {
     return E_NOTIMPL;
 }
 
+// A container that is told of a failure goes the long way, where each call gives a status of its
+// own; one that got a half of what it asked for would wait for the other half for ever.
 HRESULT ObjetoControl::QuickActivate(QACONTAINER* contenedor, QACONTROL* control) {
     if (!contenedor || !control)
         return E_POINTER;
-    return Guardar([&] {
+    if (contenedor->cbSize < sizeof *contenedor || control->cbSize < sizeof *control)
+        return E_INVALIDARG;
+    return Guardar([&]() -> HRESULT {
         const ULONG tamanio = control->cbSize;
         *control = {};
         control->cbSize = tamanio;
-        SetClientSite(contenedor->pClientSite);
-        if (contenedor->pAdviseSink)
-            SetAdvise(DVASPECT_CONTENT, 0, contenedor->pAdviseSink);
+        HRESULT estado = S_OK;
         if (contenedor->pPropertyNotifySink)
-            notificaciones_.Advise(contenedor->pPropertyNotifySink, &control->dwPropNotifyCookie);
-        if (contenedor->pUnkEventSink)
-            eventos_.Advise(contenedor->pUnkEventSink, &control->dwEventCookie);
-        if (contenedor->dwAmbientFlags & (QACONTAINER_USERMODE))
-            modoUsuario_ = 1;
-        else if (!ambiente_)
-            modoUsuario_ = 0;
+            estado = notificaciones_.Advise(contenedor->pPropertyNotifySink,
+                                            &control->dwPropNotifyCookie);
+        if (SUCCEEDED(estado) && contenedor->pUnkEventSink)
+            estado = eventos_.Advise(contenedor->pUnkEventSink, &control->dwEventCookie);
+        if (SUCCEEDED(estado) && contenedor->pAdviseSink)
+            estado = SetAdvise(DVASPECT_CONTENT, 0, contenedor->pAdviseSink);
+        if (SUCCEEDED(estado))
+            estado = SetClientSite(contenedor->pClientSite);
+        if (FAILED(estado)) {
+            if (const DWORD galleta = std::exchange(control->dwPropNotifyCookie, 0))
+                notificaciones_.Unadvise(galleta);
+            if (const DWORD galleta = std::exchange(control->dwEventCookie, 0))
+                eventos_.Unadvise(galleta);
+            return estado;
+        }
+        const auto ambiente = [&](DWORD bandera, int& valor) {
+            if (contenedor->dwAmbientFlags & bandera)
+                valor = 1;
+            else if (!ambiente_)
+                valor = 0;
+        };
+        ambiente(QACONTAINER_USERMODE, modoUsuario_);
+        ambiente(QACONTAINER_UIDEAD, interfazMuerta_);
+        if (contenedor->lcid)
+            idioma_ = static_cast<LCID>(contenedor->lcid);
         control->dwMiscStatus = Datos().rasgosOle;
-        control->dwViewStatus = VIEWSTATUS_OPAQUE;
-        control->dwPointerActivationPolicy = POINTERINACTIVE_ACTIVATEONENTRY;
+        control->dwViewStatus = EsOpaca() ? VIEWSTATUS_OPAQUE : 0;
+        // No IPointerInactive, no policy.
         return S_OK;
     });
 }

@@ -1,6 +1,9 @@
 // IViewObject2 and IDataObject: the look of a control that is not a window.
 #include "componente/control/enumeradores.h"
+#include "componente/control/metafichero.h"
 #include "componente/control/objeto_control.h"
+
+#include <iterator>
 
 namespace pincela::componente {
 
@@ -39,6 +42,8 @@ HRESULT ObjetoControl::Unfreeze(DWORD) {
 }
 
 HRESULT ObjetoControl::SetAdvise(DWORD aspectos, DWORD banderas, IAdviseSink* sumidero) {
+    if (sumidero && !(aspectos & DVASPECT_CONTENT)) // nothing else is ever drawn
+        return DV_E_DVASPECT;
     avisoDeVista_ = Ptr<IAdviseSink>(sumidero);
     aspectosDeVista_ = aspectos;
     banderasDeVista_ = banderas;
@@ -62,6 +67,14 @@ HRESULT ObjetoControl::GetExtent(DWORD aspecto, LONG, DVTARGETDEVICE*, SIZEL* ta
     return GetExtent(aspecto, tamanio);
 }
 
+bool ObjetoControl::EsOpaca() {
+    if (vida_ != Vida::Viva || entorno_.superficie().BackStyle() == 0)
+        return false;
+    std::int32_t anchoElipse = 0, altoElipse = 0;
+    nucleo_->Forma(anchoElipse, altoElipse);
+    return anchoElipse == 0 || altoElipse == 0;
+}
+
 bool ObjetoControl::VistaCambiada() {
     if (vida_ != Vida::Viva || cerrando_ || (!avisoDeVista_ && !avisosDeDatos_))
         return false;
@@ -82,19 +95,32 @@ void ObjetoControl::AvisarVista() {
 
 namespace {
 
-constexpr FORMATETC FormatoMetafichero = {CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1,
-                                          TYMED_ENHMF};
+/// The best one first. The classic one is what a class that calls itself insertable owes.
+constexpr FORMATETC Formatos[] = {
+    {CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1, TYMED_ENHMF},
+    {CF_METAFILEPICT, nullptr, DVASPECT_CONTENT, -1, TYMED_MFPICT},
+};
 
 HRESULT Admitir(const FORMATETC* formato) {
     if (!formato)
         return E_POINTER;
-    if (formato->cfFormat != CF_ENHMETAFILE)
-        return DV_E_FORMATETC;
-    if (!(formato->tymed & TYMED_ENHMF))
-        return DV_E_TYMED;
-    if (formato->dwAspect != DVASPECT_CONTENT)
-        return DV_E_DVASPECT;
-    return S_OK;
+    for (const FORMATETC& uno : Formatos) {
+        if (formato->cfFormat != uno.cfFormat)
+            continue;
+        if (!(formato->tymed & uno.tymed))
+            return DV_E_TYMED;
+        if (formato->dwAspect != uno.dwAspect)
+            return DV_E_DVASPECT;
+        return formato->lindex == uno.lindex ? S_OK : DV_E_LINDEX;
+    }
+    return DV_E_FORMATETC;
+}
+
+/// How the platform writes "any data".
+bool EsComodin(const FORMATETC& formato) {
+    constexpr DWORD cualquiera = static_cast<DWORD>(-1);
+    return formato.cfFormat == 0 && !formato.ptd && formato.dwAspect == cualquiera &&
+           formato.lindex == -1 && formato.tymed == cualquiera;
 }
 
 } // namespace
@@ -106,6 +132,28 @@ HRESULT ObjetoControl::GetData(FORMATETC* formato, STGMEDIUM* medio) {
     const HRESULT admitido = Admitir(formato);
     if (FAILED(admitido))
         return admitido;
+    return formato->cfFormat == CF_ENHMETAFILE ? DarMetafichero(*medio)
+                                               : DarMetaficheroClasico(*medio);
+}
+
+HRESULT ObjetoControl::DarMetaficheroClasico(STGMEDIUM& medio) {
+    return Guardar([&] {
+        HRESULT dibujado = S_OK;
+        const HMETAFILE metafichero =
+            HacerMetafichero(entorno_.Tamano(), [&](HDC dc, const RECTL& limites) {
+                return dibujado = Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, dc,
+                                       &limites, nullptr, nullptr, 0);
+            });
+        const HGLOBAL imagen = EnvolverMetafichero(metafichero, extension_);
+        if (!imagen)
+            return FAILED(dibujado) ? dibujado : E_OUTOFMEMORY;
+        medio.tymed = TYMED_MFPICT;
+        medio.hMetaFilePict = imagen;
+        return S_OK;
+    });
+}
+
+HRESULT ObjetoControl::DarMetafichero(STGMEDIUM& medio) {
     const RECT marco{0, 0, extension_.cx, extension_.cy}; // hundredths of a millimetre
     HDC dc = CreateEnhMetaFileW(nullptr, nullptr, &marco, Datos().nombre);
     if (!dc)
@@ -119,8 +167,8 @@ HRESULT ObjetoControl::GetData(FORMATETC* formato, STGMEDIUM* medio) {
         DeleteEnhMetaFile(metafichero);
         return FAILED(dibujado) ? dibujado : E_OUTOFMEMORY;
     }
-    medio->tymed = TYMED_ENHMF;
-    medio->hEnhMetaFile = metafichero;
+    medio.tymed = TYMED_ENHMF;
+    medio.hEnhMetaFile = metafichero;
     return S_OK;
 }
 
@@ -149,7 +197,8 @@ HRESULT ObjetoControl::EnumFormatEtc(DWORD direccion, IEnumFORMATETC** lista) {
     if (direccion != DATADIR_GET)
         return E_NOTIMPL;
     return Guardar([&] {
-        *lista = new Enumerador<IEnumFORMATETC, FORMATETC>(Identidad(), {FormatoMetafichero});
+        *lista = new Enumerador<IEnumFORMATETC, FORMATETC>(
+            Identidad(), {std::begin(Formatos), std::end(Formatos)});
         return S_OK;
     });
 }
@@ -159,6 +208,11 @@ HRESULT ObjetoControl::DAdvise(FORMATETC* formato, DWORD banderas, IAdviseSink* 
     if (!galleta)
         return E_POINTER;
     *galleta = 0;
+    if (!sumidero || !formato)
+        return E_POINTER;
+    const HRESULT admitido = EsComodin(*formato) ? S_OK : Admitir(formato);
+    if (FAILED(admitido))
+        return admitido;
     if (!avisosDeDatos_) {
         const HRESULT estado = CreateDataAdviseHolder(avisosDeDatos_.Recibir());
         if (FAILED(estado))

@@ -23,6 +23,13 @@ bool EsDeRaton(UINT mensaje) {
     return mensaje >= WM_MOUSEFIRST && mensaje <= WM_MBUTTONDBLCLK;
 }
 
+/// What comes from the user and would change a field that has the focus.
+bool EsDelUsuario(UINT mensaje) {
+    return (mensaje >= WM_MOUSEFIRST && mensaje <= WM_MOUSEHWHEEL) ||
+           (mensaje >= WM_KEYFIRST && mensaje <= WM_KEYLAST) || mensaje == WM_CONTEXTMENU ||
+           mensaje == WM_IME_COMPOSITION || mensaje == WM_IME_CHAR || mensaje == WM_GETDLGCODE;
+}
+
 } // namespace
 
 DWORD CajaTextoWindows::Estilo() const {
@@ -211,9 +218,17 @@ bool CajaTextoWindows::CambiaElTexto(UINT mensaje, WPARAM w, LPARAM l) const {
 
 bool CajaTextoWindows::Procesar(UINT mensaje, WPARAM& w, LPARAM l, LRESULT& resultado) {
     const HWND ventana = ventana_;
+    if (mensaje == WM_SETFOCUS || mensaje == WM_KILLFOCUS)
+        return ProcesarFoco(mensaje, w, l, resultado);
+    if (mensaje == WM_CAPTURECHANGED)
+        izquierdoAbajo_ = false;
     if (nucleo_.sitio.EntradaCongelada()) {
-        resultado = HTTRANSPARENT; // a designer drags the control by any part of it
-        return mensaje == WM_NCHITTEST;
+        const bool delUsuario = EsDelUsuario(mensaje);
+        if (delUsuario) // what the platform does with it in any window, and no more
+            resultado = ::DefWindowProcW(ventana, mensaje, w, l);
+        else
+            resultado = HTTRANSPARENT; // a designer drags the control by any part of it
+        return delUsuario || mensaje == WM_NCHITTEST;
     }
     if (EsTabulador(mensaje, w)) {
         if (mensaje == WM_KEYDOWN)
@@ -230,32 +245,30 @@ bool CajaTextoWindows::Procesar(UINT mensaje, WPARAM& w, LPARAM l, LRESULT& resu
     case WM_GETDLGCODE:
         resultado = CodigoDeDialogo(l);
         return true;
-    case WM_SETFOCUS:
-        resultado = ::DefSubclassProc(ventana, mensaje, w, l);
-        if (!callada_ && FocoEntra(nucleo_))
-            Decir([](OyenteEdicion& oyente) { oyente.GotFocus(); });
-        return true;
-    case WM_KILLFOCUS: {
-        resultado = ::DefSubclassProc(ventana, mensaje, w, l);
-        Nucleo& nucleo = nucleo_;
-        const auto testigo = nucleo.Testigo();
-        if (!callada_)
-            Decir([](OyenteEdicion& oyente) { oyente.LostFocus(); });
-        if (!testigo.expired())
-            FocoSale(nucleo, reinterpret_cast<HWND>(w));
-        return true;
-    }
-    case WM_CAPTURECHANGED:
-        izquierdoAbajo_ = false;
-        return false;
     case WM_MOUSELEAVE:
         TemporizadorWindows::RatonSale(nucleo_);
         return false;
     default:
-        if (EsDeRaton(mensaje))
-            ProcesarRaton(mensaje, w, l);
-        return false;
+        return EsDeRaton(mensaje) && !ProcesarRaton(mensaje, w, l);
     }
+}
+
+bool CajaTextoWindows::ProcesarFoco(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado) {
+    resultado = ::DefSubclassProc(ventana_, mensaje, w, l);
+    if (mensaje == WM_SETFOCUS) {
+        if (!callada_ && FocoEntra(nucleo_) && !nucleo_.sitio.EntradaCongelada()) {
+            focoDicho_ = true;
+            Decir([](OyenteEdicion& oyente) { oyente.GotFocus(); });
+        }
+        return true;
+    }
+    Nucleo& nucleo = nucleo_;
+    const auto testigo = nucleo.Testigo();
+    if (!callada_ && std::exchange(focoDicho_, false))
+        Decir([](OyenteEdicion& oyente) { oyente.LostFocus(); });
+    if (!testigo.expired())
+        FocoSale(nucleo, reinterpret_cast<HWND>(w));
+    return true;
 }
 
 // The platform's own answer would make a field of many lines take TAB and Escape from a dialog.
@@ -308,7 +321,7 @@ void CajaTextoWindows::InsertarTabulador() {
         ::SendMessageW(ventana_, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"\t"));
 }
 
-void CajaTextoWindows::ProcesarRaton(UINT mensaje, WPARAM w, LPARAM l) {
+bool CajaTextoWindows::ProcesarRaton(UINT mensaje, WPARAM w, LPARAM l) {
     const std::weak_ptr<const void> testigo = vida_;
     if (nucleo_.globos) {
         POINT punto{GET_X_LPARAM(l), GET_Y_LPARAM(l)};
@@ -322,21 +335,25 @@ void CajaTextoWindows::ProcesarRaton(UINT mensaje, WPARAM w, LPARAM l) {
     case WM_MOUSEMOVE:
         TemporizadorWindows::RatonEncima(nucleo_, ventana_);
         Decir([&](OyenteEdicion& o) { o.MouseMove(BotonesAbajo(w), shift, x, y); });
-        return;
+        return true;
     case WM_LBUTTONDOWN:
-    case WM_LBUTTONDBLCLK:
+    case WM_LBUTTONDBLCLK: {
         izquierdoAbajo_ = true;
         if (!nucleo_.EsVentanaPropia(::GetFocus()))
             Proteger(nucleo_.sitio, [this] { nucleo_.sitio.PedirFoco(); });
         if (testigo.expired())
-            return;
-        [[fallthrough]];
+            return true;
+        // The platform's field would take a focus that was refused.
+        const bool admitida = nucleo_.EsVentanaPropia(::GetFocus());
+        Decir([&](OyenteEdicion& o) { o.MouseDown(boton, shift, x, y); });
+        return admitida;
+    }
     case WM_RBUTTONDOWN:
     case WM_RBUTTONDBLCLK:
     case WM_MBUTTONDOWN:
     case WM_MBUTTONDBLCLK:
         Decir([&](OyenteEdicion& o) { o.MouseDown(boton, shift, x, y); });
-        return;
+        return true;
     default:
         break;
     }
@@ -348,6 +365,7 @@ void CajaTextoWindows::ProcesarRaton(UINT mensaje, WPARAM w, LPARAM l) {
         izquierdoAbajo_ = false;
     if (Decir([&](OyenteEdicion& o) { o.MouseUp(boton, shift, x, y); }) && click)
         Decir([](OyenteEdicion& o) { o.Click(); });
+    return true;
 }
 
 } // namespace pincela::windows

@@ -228,9 +228,12 @@ void CajaTextoWindows::SetFocus() {
     if (!ventana_ || ::GetFocus() == ventana_)
         return;
     const std::weak_ptr<const void> testigo = vida_;
-    if (!nucleo_.EsVentanaPropia(::GetFocus()))
+    if (!nucleo_.EsVentanaPropia(::GetFocus())) {
         nucleo_.sitio.PedirFoco();
-    if (!testigo.expired() && ventana_)
+        if (testigo.expired() || !nucleo_.EsVentanaPropia(::GetFocus())) // it was refused
+            return;
+    }
+    if (ventana_)
         ::SetFocus(ventana_);
 }
 

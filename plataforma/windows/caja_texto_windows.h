@@ -73,11 +73,13 @@ class CajaTextoWindows final : public CajaTexto,
     LRESULT Recibir(UINT mensaje, WPARAM w, LPARAM l) noexcept;
     /// True when the message ends here; `w` may have changed for the platform's own handling.
     bool Procesar(UINT mensaje, WPARAM& w, LPARAM l, LRESULT& resultado);
+    bool ProcesarFoco(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resultado);
     bool ProcesarTecla(UINT mensaje, WPARAM& w);
     bool CambiaElTexto(UINT mensaje, WPARAM w, LPARAM l) const;
     void InsertarTabulador();
     LRESULT CodigoDeDialogo(LPARAM l) const;
-    void ProcesarRaton(UINT mensaje, WPARAM w, LPARAM l);
+    /// False when the message is not for the platform's field.
+    bool ProcesarRaton(UINT mensaje, WPARAM w, LPARAM l);
     template <class Accion>
     bool Decir(Accion&& accion);
 
@@ -104,6 +106,7 @@ class CajaTextoWindows final : public CajaTexto,
     bool directo_ = false;  // what arrives was told already, in the window before this one
     bool anotada_ = false;  // the platform keeps the field's name
     bool izquierdoAbajo_ = false;
+    bool focoDicho_ = false; // the listener was told that the field has the focus
 
     // What the field holds while it has no window.
     Texto texto_;

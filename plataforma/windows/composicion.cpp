@@ -4,6 +4,8 @@
 #include "plataforma/windows/mascara.h"
 #include "plataforma/windows/modulo.h"
 
+#include <algorithm>
+
 namespace pincela::windows {
 
 namespace {
@@ -78,6 +80,20 @@ void CopiarEntera(HDC destino, HDC origen, const RECT& r) {
 
 } // namespace
 
+void ComponerColor(SuperficieWindows& superficie, const Destino& destino) {
+    if (superficie.Transparente())
+        return;
+    const SIZE tamano = superficie.Tamano();
+    const RECT r = destino.Rectangulo(0, 0, tamano.cx, tamano.cy);
+    const auto alcanzable = [](LONG valor) {
+        constexpr LONG tope = 1 << 26; // the platform's own limit of what can be drawn on
+        return std::clamp(valor, -tope, tope);
+    };
+    const auto [x1, x2] = std::minmax({alcanzable(r.left), alcanzable(r.right)});
+    const auto [y1, y2] = std::minmax({alcanzable(r.top), alcanzable(r.bottom)});
+    Llenar(destino.dc, {x1, y1, x2, y2}, Resolver(superficie.lienzo().imagen().Fondo()));
+}
+
 void Componer(const Nucleo& nucleo, SuperficieWindows& superficie, const Destino& destino) {
     ComponerFondo(superficie, destino);
     nucleo.escena.Dibujar(destino);
@@ -109,7 +125,13 @@ void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie) {
     const RECT& sucio = pintura.Sucio();
     const auto testigo = nucleo.Testigo();
     if (sucio.right > sucio.left && sucio.bottom > sucio.top) {
-        const PrestamoDeFondo fondo(dc, {sucio.right, sucio.bottom});
+        // No more than what is to be painted of a window that may be larger than any screen. Whole
+        // steps, so that a pattern falls on the same pixels whatever part of it is painted.
+        constexpr LONG paso = 8;
+        const POINT origen{sucio.left - sucio.left % paso, sucio.top - sucio.top % paso};
+        const PrestamoDeFondo fondo(dc, {sucio.right - origen.x, sucio.bottom - origen.y});
+        if (fondo.dc())
+            ::SetViewportOrgEx(fondo.dc(), -origen.x, -origen.y, nullptr);
         Destino destino;
         destino.dc = fondo.dc() ? fondo.dc() : dc;
         destino.enVentana = true;

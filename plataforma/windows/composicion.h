@@ -8,6 +8,9 @@ namespace pincela::windows {
 /// Draws everything; where a transparent surface shows nothing the context keeps what it has.
 void Componer(const Nucleo& nucleo, SuperficieWindows& superficie, const Destino& destino);
 
+/// Draws the colour of the background alone; nothing where the surface is transparent.
+void ComponerColor(SuperficieWindows& superficie, const Destino& destino);
+
 /// Asks the window's parent to draw itself as it is behind the window; it may end everything.
 void DibujarPadre(Nucleo& nucleo, HDC dc);
 

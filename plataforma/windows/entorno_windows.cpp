@@ -5,6 +5,7 @@
 #include "plataforma/windows/composicion.h"
 #include "plataforma/windows/cuadro_windows.h"
 #include "plataforma/windows/etiqueta_windows.h"
+#include "plataforma/windows/foco.h"
 #include "plataforma/windows/linea_windows.h"
 #include "plataforma/windows/modulo.h"
 #include "plataforma/windows/rectangulo_windows.h"
@@ -45,14 +46,19 @@ class GraficosConAviso final : public Graficos {
     Manejador CreateRoundRectRgn(std::int32_t izquierda, std::int32_t arriba, std::int32_t derecha,
                                  std::int32_t abajo, std::int32_t anchoElipse,
                                  std::int32_t altoElipse) override {
-        return reales_.CreateRoundRectRgn(izquierda, arriba, derecha, abajo, anchoElipse,
-                                          altoElipse);
+        // Nobody would wear it, and one of a size that no window has takes its time.
+        return nucleo_.ventana ? reales_.CreateRoundRectRgn(izquierda, arriba, derecha, abajo,
+                                                            anchoElipse, altoElipse)
+                               : 0;
     }
     void SetWindowRgn(Manejador ventana, Manejador region, bool redibujar) override {
         if (ventana)
             reales_.SetWindowRgn(ventana, region, redibujar);
     }
-    void DeleteObject(Manejador objeto) override { reales_.DeleteObject(objeto); }
+    void DeleteObject(Manejador objeto) override {
+        if (objeto)
+            reales_.DeleteObject(objeto);
+    }
     PuntoPantalla GetCursorPos() override { return reales_.GetCursorPos(); }
     // Asked only to know whether it is the control's own window.
     Manejador WindowFromPoint(PuntoPantalla punto) override {
@@ -131,15 +137,33 @@ HWND EntornoWindows::Ventana() const {
 }
 
 void EntornoWindows::MoverVentana(const RECT& lugar) {
+    const RECT r = LugarDeVentana(lugar);
     if (partes_->nucleo.ventana)
-        ::SetWindowPos(partes_->nucleo.ventana, nullptr, lugar.left, lugar.top,
-                       lugar.right - lugar.left, lugar.bottom - lugar.top,
-                       SWP_NOZORDER | SWP_NOACTIVATE);
+        ::SetWindowPos(partes_->nucleo.ventana, nullptr, r.left, r.top, r.right - r.left,
+                       r.bottom - r.top, SWP_NOZORDER | SWP_NOACTIVATE);
     else
-        PonTamano({lugar.right - lugar.left, lugar.bottom - lugar.top}, true);
+        PonTamano({r.right - r.left, r.bottom - r.top}, true);
 }
 
 namespace {
+
+/// The side of a view, in pixels of the device, from which on only its colour is drawn: no screen
+/// and hardly a sheet of paper shows more, and letters and curves of that size would take for ever.
+constexpr double LadoMaximoDeVista = 0x8000;
+
+/// Whether a surface drawn at that scale is larger than anything it could be drawn on.
+bool EsDesmedida(const Destino& destino, SIZE tamano) {
+    constexpr LONG unidades = 0x1000;
+    POINT puntos[3] = {{0, 0}, {unidades, 0}, {0, unidades}};
+    ::LPtoDP(destino.dc, puntos, 3);
+    const auto lado = [&](const POINT& extremo, double largo) {
+        const double x = static_cast<double>(extremo.x) - puntos[0].x;
+        const double y = static_cast<double>(extremo.y) - puntos[0].y;
+        return std::hypot(x, y) / unidades * std::abs(largo);
+    };
+    return lado(puntos[1], tamano.cx * destino.sx) >= LadoMaximoDeVista ||
+           lado(puntos[2], tamano.cy * destino.sy) >= LadoMaximoDeVista;
+}
 
 /// Limits drawing to a rounded shape. A path, unlike a region, follows the scale of the device.
 void RecortarForma(HDC dc, const Destino& escala, SIZE tamano, SIZE elipse) {
@@ -165,12 +189,25 @@ void EntornoWindows::Dibujar(HDC dc, const RECT& destino, SIZE elipse) {
     escala.dc = dc;
     escala.x0 = destino.left;
     escala.y0 = destino.top;
-    escala.sx = static_cast<double>(destino.right - destino.left) / tamano.cx;
-    escala.sy = static_cast<double>(destino.bottom - destino.top) / tamano.cy;
+    escala.sx = (static_cast<double>(destino.right) - destino.left) / tamano.cx;
+    escala.sy = (static_cast<double>(destino.bottom) - destino.top) / tamano.cy;
     EstadoDc estado(dc);
     ::IntersectClipRect(dc, destino.left, destino.top, destino.right, destino.bottom);
+    if (EsDesmedida(escala, tamano)) {
+        ComponerColor(partes_->superficie, escala);
+        return;
+    }
     RecortarForma(dc, escala, tamano, elipse);
     Componer(partes_->nucleo, partes_->superficie, escala);
+}
+
+void EntornoWindows::SoltarRaton() {
+    if (partes_->nucleo.EsVentanaPropia(::GetCapture()))
+        ::ReleaseCapture();
+}
+
+void EntornoWindows::ActualizarFoco() {
+    FocoDescongelado(partes_->nucleo);
 }
 
 bool EntornoWindows::TieneFoco() const {

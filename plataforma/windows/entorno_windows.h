@@ -37,7 +37,7 @@ class SitioControl {
     /// TAB came down in a window of the control without its container having taken it.
     virtual void MoverFoco(bool atras) = 0;
     virtual void ControlesContenidos(const std::function<void(ControlContenido&)>& visita) = 0;
-    /// True when the container wants input to do nothing (design mode).
+    /// True when the container wants input to do nothing (design mode, or dead to the user).
     virtual bool EntradaCongelada() = 0;
     /// Who sees every message of the window before and after it is handled, because it keeps
     /// controls of its own in that window; null for nobody.
@@ -53,6 +53,9 @@ class SitioControl {
   protected:
     ~SitioControl() = default;
 };
+
+/// Longest side that the platform gives a window, in pixels.
+inline constexpr int LadoMaximoDeVentana = 0x7FFF;
 
 /// The process-wide implementation of the platform's drawing calls.
 Graficos& GraficosDeWindows();
@@ -86,6 +89,11 @@ class EntornoWindows final : public Entorno {
     /// Moves the window, and the surface's size with it; the control gets Resize when the size
     /// changed, as it does when anybody else sizes the window.
     void MoverVentana(const RECT& lugar);
+
+    /// A press in course is forgotten: the mouse is everybody's again.
+    void SoltarRaton();
+    /// Input may have come back to a control that has the focus: then it is told of it.
+    void ActualizarFoco();
 
     /// Draws image and widgets scaled into `destino` of any device context, metafiles included; in
     /// units of the context, right of left and below top. A transparent surface leaves what the

@@ -3,12 +3,16 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace pincela::windows {
 
+/// What lies beyond the range of a whole number is at its end.
 inline int Redondo(double valor) {
-    return static_cast<int>(std::floor(valor + 0.5));
+    constexpr double tope = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(std::floor(valor + 0.5), -tope, tope));
 }
 
 /// Pixels to hundredths of a millimetre and back.

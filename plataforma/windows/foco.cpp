@@ -1,5 +1,7 @@
 #include "plataforma/windows/foco.h"
 
+#include <utility>
+
 namespace pincela::windows {
 
 bool FocoEntra(Nucleo& nucleo) {
@@ -11,8 +13,17 @@ bool FocoEntra(Nucleo& nucleo) {
     Proteger(sitio, [&] { sitio.FocoCambiado(true); });
     if (testigo.expired())
         return false;
-    return sitio.EntradaCongelada() ||
-           nucleo.Notificar([](ControlUsuario& control) { control.EnterFocus(); });
+    FocoDescongelado(nucleo);
+    return !testigo.expired();
+}
+
+// A container that keeps its controls from the user keeps the focus from them too; a control that
+// was told of it is told of its end in any case, or it would show a focus that it doesn't have.
+void FocoDescongelado(Nucleo& nucleo) {
+    if (!nucleo.conFoco || nucleo.focoDicho || nucleo.sitio.EntradaCongelada())
+        return;
+    nucleo.focoDicho = true;
+    nucleo.Notificar([](ControlUsuario& control) { control.EnterFocus(); });
 }
 
 bool FocoSale(Nucleo& nucleo, HWND siguiente) {
@@ -20,7 +31,7 @@ bool FocoSale(Nucleo& nucleo, HWND siguiente) {
         return true;
     nucleo.conFoco = false;
     SitioControl& sitio = nucleo.sitio;
-    if (!sitio.EntradaCongelada() &&
+    if (std::exchange(nucleo.focoDicho, false) &&
         !nucleo.Notificar([](ControlUsuario& control) { control.ExitFocus(); }))
         return false;
     const auto testigo = nucleo.Testigo();

@@ -12,6 +12,14 @@ namespace {
 // Drawing calls write 0 or an opaque 255 into the unused byte; this is neither.
 constexpr std::uint32_t Marca = 0x5A000000;
 
+constexpr int LadoMaximo = 0x7FFF;
+// The largest screens on sale have this many pixels: 128 megabytes.
+constexpr std::int64_t PixelesMaximos = 32 * 1024 * 1024;
+
+bool EsDesmedida(int ancho, int alto) {
+    return ancho > LadoMaximo || alto > LadoMaximo || std::int64_t{ancho} * alto > PixelesMaximos;
+}
+
 std::uint32_t PixelDeFondo(Color fondo) {
     return Marca | APixel(Resolver(fondo));
 }
@@ -19,6 +27,8 @@ std::uint32_t PixelDeFondo(Color fondo) {
 } // namespace
 
 void ImagenDib::Crear() {
+    if (EsDesmedida(ancho_, alto_))
+        return;
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = ancho_;

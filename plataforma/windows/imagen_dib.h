@@ -1,6 +1,7 @@
 // The persistent image of a canvas: 32 bits a pixel, rows from the top.
 //
-// Until something is drawn the image is only a colour and costs no memory. A pixel that nothing
+// Until something is drawn the image is only a colour and costs no memory; of a size that no screen
+// has it stays one, whatever is drawn. A pixel that nothing
 // was drawn on since the last clearing keeps a mark in its unused byte, so that a transparent
 // surface knows where the container shows through.
 #pragma once
@@ -25,7 +26,8 @@ class ImagenDib {
     /// Whole image to one colour.
     void Limpiar(Color fondo);
 
-    /// Made on the first call; null only when the platform has no memory left.
+    /// Made on the first call; null when the platform has no memory left or no screen is that
+    /// large.
     HDC Dc();
     /// Rows of Ancho() pixels, valid until the size changes; pending drawing is finished first.
     std::uint32_t* Pixeles();

@@ -102,6 +102,7 @@ PrestamoDeFondo::~PrestamoDeFondo() {
     if (!dc_)
         return;
     ::SelectClipRgn(dc_, nullptr);
+    ::SetViewportOrgEx(dc_, 0, 0, nullptr);
     ElCompartido().fondoPrestado = false;
 }
 

@@ -23,7 +23,8 @@ class UsoDelModulo {
 };
 
 /// The shared back buffer for the length of one painting; a painting inside another gets none. It
-/// may be clipped; anything else about the context is given back as it was found.
+/// may be clipped and its origin moved; anything else about the context is given back as it was
+/// found.
 class PrestamoDeFondo {
   public:
     PrestamoDeFondo(HDC modelo, SIZE tamano);

@@ -52,6 +52,7 @@ class Nucleo {
     std::vector<CampoEdicion*> campos; // in the order they were made
     Globos* globos = nullptr;          // of the window, for whoever gets mouse messages
     bool conFoco = false;              // what the site was last told
+    bool focoDicho = false;            // what the control was last told
     bool dibujandoPadre = false;       // the parent was asked for what is behind the window
 
     /// Expires with the environment.

@@ -9,6 +9,9 @@
 #include "plataforma/windows/puntero.h"
 #include "plataforma/windows/temporizador_windows.h"
 
+#include <algorithm>
+#include <cstdint>
+
 namespace pincela::windows {
 
 namespace {
@@ -31,11 +34,23 @@ LRESULT CodigoDeDialogo(LPARAM l) {
 
 } // namespace
 
-HWND VentanaSuperficie::Crear(HWND padre, const RECT& lugar) {
+RECT LugarDeVentana(const RECT& pedido) {
+    const auto lado = [](std::int64_t desde, std::int64_t hasta) {
+        return static_cast<LONG>(std::clamp<std::int64_t>(hasta - desde, 0, LadoMaximoDeVentana));
+    };
+    const auto sitio = [](LONG valor) {
+        return std::clamp<LONG>(valor, -LadoMaximoDeVentana - 1, LadoMaximoDeVentana);
+    };
+    const LONG x = sitio(pedido.left), y = sitio(pedido.top);
+    return {x, y, x + lado(pedido.left, pedido.right), y + lado(pedido.top, pedido.bottom)};
+}
+
+HWND VentanaSuperficie::Crear(HWND padre, const RECT& pedido) {
     static ClaseDeVentana clase(NombreDeClase, CS_DBLCLKS, &VentanaSuperficie::Procedimiento);
     clase.Asegurar();
     if (nucleo_.ventana)
         Destruir();
+    const RECT lugar = LugarDeVentana(pedido);
     superficie_.PonTamano({lugar.right - lugar.left, lugar.bottom - lugar.top});
     const auto testigo = nucleo_.Testigo();
     // TAB goes through what is placed inside, also where the platform moves the focus.

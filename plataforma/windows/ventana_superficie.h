@@ -8,6 +8,9 @@
 
 namespace pincela::windows {
 
+/// A place as the platform can give it to a window: neither inverted nor beyond its measures.
+RECT LugarDeVentana(const RECT& pedido);
+
 class VentanaSuperficie {
   public:
     VentanaSuperficie(Nucleo& nucleo, SuperficieWindows& superficie)
