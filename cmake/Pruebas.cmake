@@ -38,12 +38,16 @@ else()
     set(PINCELA_ENSAYO nativo)
 endif()
 set(PINCELA_HERRAMIENTAS ${CMAKE_SOURCE_DIR}/herramientas)
+# Of a test that says nothing else, whatever the caller's own environment says.
+set(PINCELA_ENTORNO PINCELA_PANTALLA=nula PINCELA_IDIOMA=C.UTF-8 PINCELA_PPP=96)
 
 # A component that does not register is one failure, told once, and not one of every program.
 if(MINGW)
     add_test(NAME registrar COMMAND ${PINCELA_HERRAMIENTAS}/registrar ${PINCELA_ENSAYO})
     set_tests_properties(registrar PROPERTIES
-        FIXTURES_SETUP componente ENVIRONMENT "PINCELA_USO=ensayo-1" LABELS preparacion)
+        FIXTURES_SETUP componente LABELS preparacion
+        ENVIRONMENT "${PINCELA_ENTORNO};PINCELA_USO=ensayo-1"
+        ENVIRONMENT_MODIFICATION "WINEPREFIX=unset:")
 endif()
 
 # _pincela_ensayo(nombre programa [ENTORNO variables...] [ETIQUETAS...]): one run of a program, told how
@@ -52,6 +56,7 @@ function(_pincela_ensayo nombre programa)
     cmake_parse_arguments(PARSE_ARGV 2 ensayo "" "" "ENTORNO;ETIQUETAS")
     add_test(NAME ${nombre} WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
              COMMAND ${PINCELA_HERRAMIENTAS}/ensayar ${PINCELA_ENSAYO} $<TARGET_FILE:${programa}>)
+    list(PREPEND ensayo_ENTORNO ${PINCELA_ENTORNO})
     if(prueba_PUBLICADA)
         list(APPEND ensayo_ENTORNO PINCELA_COMPONENTE=$<TARGET_FILE:Pincela>)
         set_tests_properties(${nombre} PROPERTIES FIXTURES_REQUIRED componente)
