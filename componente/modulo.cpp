@@ -1,6 +1,7 @@
 #include "componente/modulo.h"
 
 #include "componente/fabrica.h"
+#include "componente/registro/archivos.h"
 #include "plataforma/windows/regional.h"
 
 #include <atomic>
@@ -30,6 +31,19 @@ HINSTANCE Modulo() {
     return modulo;
 }
 
+std::wstring ArchivoDelModulo() {
+    std::wstring ruta(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD largo =
+            GetModuleFileNameW(modulo, ruta.data(), static_cast<DWORD>(ruta.size()));
+        if (largo < ruta.size()) {
+            ruta.resize(largo);
+            return ruta;
+        }
+        ruta.resize(2 * ruta.size());
+    }
+}
+
 void BloquearModulo() {
     ++bloqueos;
 }
@@ -54,12 +68,13 @@ HRESULT BibliotecaDeTipos(ITypeLib** salida) {
     *salida = nullptr;
     const Guarda guarda;
     if (!biblioteca) {
-        wchar_t ruta[MAX_PATH];
-        const DWORD largo = GetModuleFileNameW(modulo, ruta, MAX_PATH);
-        if (largo == 0 || largo == MAX_PATH)
+        const std::wstring ruta = ArchivoDelModulo();
+        if (ruta.empty())
             return TYPE_E_CANTLOADLIBRARY;
         // The library of this very file, whatever the registry says.
-        const HRESULT estado = LoadTypeLibEx(ruta, REGKIND_NONE, &biblioteca);
+        HRESULT estado = LoadTypeLibEx(ruta.c_str(), REGKIND_NONE, &biblioteca);
+        if (FAILED(estado) && ruta.size() >= MAX_PATH) // which is all the platform reads
+            estado = LoadTypeLibEx(NombreCorto(ruta).c_str(), REGKIND_NONE, &biblioteca);
         if (FAILED(estado))
             return estado;
     }

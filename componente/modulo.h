@@ -4,12 +4,16 @@
 #include "componente/clases.h"
 #include "componente/com.h"
 
+#include <string>
+
 #include <oaidl.h>
 #include <windows.h>
 
 namespace pincela::componente {
 
 HINSTANCE Modulo();
+/// Where the file is, whatever the length of its path; empty when the system doesn't tell.
+std::wstring ArchivoDelModulo();
 
 /// Counts what keeps the file loaded: objects, factories and explicit locks.
 void BloquearModulo();

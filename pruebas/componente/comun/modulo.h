@@ -8,7 +8,8 @@ namespace publicado {
 
 class Modulo {
   public:
-    Modulo() : h_(LoadLibraryW(RutaDelComponente().c_str())) {
+    Modulo() : Modulo(RutaDelComponente()) {}
+    explicit Modulo(const std::wstring& archivo) : h_(LoadLibraryW(archivo.c_str())) {
         if (!h_)
             throw anfitrion::FalloCom(HRESULT_FROM_WIN32(GetLastError()), "LoadLibrary");
     }

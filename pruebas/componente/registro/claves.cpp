@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <sddl.h>
+
 namespace publicado {
 
 namespace {
@@ -12,8 +14,9 @@ class Volcador {
   public:
     std::vector<std::wstring> lineas;
 
-    void VolcarClave(HKEY raiz, const std::wstring& absoluta, const std::wstring& ruta) {
-        const Clave clave(raiz, absoluta);
+    void VolcarClave(HKEY raiz, const std::wstring& absoluta, const std::wstring& ruta,
+                     REGSAM ancho = 0) {
+        const Clave clave(raiz, absoluta, false, 0, ancho);
         if (!clave)
             return;
         VolcarValores(clave, ruta);
@@ -42,6 +45,8 @@ class Volcador {
             if (error == ERROR_NO_MORE_ITEMS)
                 return;
             std::wstring valor = L"(type " + std::to_wstring(tipo) + L")";
+            for (DWORD b = 0; error == ERROR_SUCCESS && tipo != REG_SZ && b < largo; ++b)
+                valor += L' ' + std::to_wstring(datos_[b]);
             if (error == ERROR_SUCCESS && tipo == REG_SZ) {
                 valor.assign(reinterpret_cast<const wchar_t*>(datos_.data()),
                              largo / sizeof(wchar_t));
@@ -62,9 +67,31 @@ std::wstring EnMinusculas(std::wstring texto) {
     return texto;
 }
 
-std::vector<std::wstring> Volcar(HKEY raiz, const std::wstring& ruta) {
+SoloLectura::SoloLectura(HKEY raiz, const std::wstring& ruta) {
+    DWORD largo = 0;
+    if (RegOpenKeyExW(raiz, ruta.c_str(), 0, KEY_READ | WRITE_DAC, &h_) != ERROR_SUCCESS)
+        return;
+    RegGetKeySecurity(h_, DACL_SECURITY_INFORMATION, nullptr, &largo);
+    antes_.resize(largo);
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    vale_ =
+        RegGetKeySecurity(h_, DACL_SECURITY_INFORMATION, antes_.data(), &largo) == ERROR_SUCCESS &&
+        ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:P(A;;KR;;;WD)", SDDL_REVISION_1,
+                                                             &descriptor, nullptr) &&
+        RegSetKeySecurity(h_, DACL_SECURITY_INFORMATION, descriptor) == ERROR_SUCCESS;
+    LocalFree(descriptor);
+}
+
+SoloLectura::~SoloLectura() {
+    if (vale_)
+        RegSetKeySecurity(h_, DACL_SECURITY_INFORMATION, antes_.data());
+    if (h_)
+        RegCloseKey(h_);
+}
+
+std::vector<std::wstring> Volcar(HKEY raiz, const std::wstring& ruta, REGSAM ancho) {
     Volcador volcador;
-    volcador.VolcarClave(raiz, ruta, L"");
+    volcador.VolcarClave(raiz, ruta, L"", ancho);
     std::sort(volcador.lineas.begin(), volcador.lineas.end());
     return std::move(volcador.lineas);
 }

@@ -1,57 +1,12 @@
 // What registering writes, and that nothing of it stays.
-#include "pruebas/componente/comun/modulo.h"
-#include "pruebas/componente/registro/claves.h"
+#include "pruebas/componente/registro/banco.h"
 
-#include <doctest/doctest.h>
-
-#include <algorithm>
-#include <iterator>
 #include <map>
 
 using namespace publicado;
 using anfitrion::Estrechar;
-using Lineas = std::vector<std::wstring>;
 
 namespace {
-
-constexpr const wchar_t* ClasesDeSoftware = L"Software\\Classes";
-constexpr const wchar_t* Sistema = sizeof(void*) == 8 ? L"win64" : L"win32";
-
-/// The machine is left registered and the user without, as they were found.
-struct Banco {
-    Banco() {
-        REQUIRE(modulo.Instalar(false, L"user") == S_OK);
-        REQUIRE(modulo.Desregistrar() == S_OK);
-        maquina = Volcar(HKEY_LOCAL_MACHINE, ClasesDeSoftware);
-        usuario = Volcar(HKEY_CURRENT_USER, ClasesDeSoftware);
-    }
-    Banco(const Banco&) = delete;
-    Banco& operator=(const Banco&) = delete;
-    ~Banco() {
-        modulo.Instalar(false, L"user");
-        modulo.Registrar();
-    }
-    Lineas Maquina() const { return Volcar(HKEY_LOCAL_MACHINE, ClasesDeSoftware); }
-    Lineas Usuario() const { return Volcar(HKEY_CURRENT_USER, ClasesDeSoftware); }
-
-    Modulo modulo;
-    Lineas maquina, usuario; // before
-};
-
-Lineas Nuevas(const Lineas& ahora, const Lineas& antes) {
-    Lineas diferencia;
-    std::set_difference(ahora.begin(), ahora.end(), antes.begin(), antes.end(),
-                        std::back_inserter(diferencia));
-    return diferencia;
-}
-
-void CompararLineas(const Lineas& leidas, const Lineas& esperadas) {
-    for (const std::wstring& sobra : Nuevas(leidas, esperadas))
-        FAIL_CHECK("too much: " << Estrechar(sobra));
-    for (const std::wstring& falta : Nuevas(esperadas, leidas))
-        FAIL_CHECK("missing: " << Estrechar(falta));
-    CHECK(leidas.size() == esperadas.size());
-}
 
 /// Keys and values, each key with all its parents.
 class Esperadas {
@@ -197,48 +152,6 @@ TEST_CASE("An installation for nobody known is refused") {
     CHECK(b.modulo.Instalar(true, L"vecino") == E_INVALIDARG);
     CHECK(b.modulo.Instalar(false, L"vecino") == E_INVALIDARG);
     CompararLineas(b.Maquina(), b.maquina);
-    CompararLineas(b.Usuario(), b.usuario);
-}
-
-TEST_CASE("A registration that fails half-way leaves everything as it was") {
-    const Banco b;
-    const std::wstring base = std::wstring(ClasesDeSoftware) + L"\\";
-    // No lasting key can be made below one that does not last.
-    std::wstring obstaculo;
-    SUBCASE("at the first key") {
-        obstaculo = L"TypeLib\\" + std::wstring(Biblioteca);
-    }
-    SUBCASE("at a class in the middle") {
-        obstaculo = std::wstring(L"CLSID\\") + ClaseDe(L"Botonazo").clase;
-    }
-    SUBCASE("at the last interface") {
-        obstaculo = std::wstring(L"Interface\\") + ClaseDe(L"ProPColoresArea").interfaz;
-    }
-    SUBCASE("at a name") {
-        obstaculo = L"Pincela.TboxSS";
-    }
-    const std::wstring efectos = base + L"CLSID\\" + ClaseDe(L"Efectos").clase;
-    Clave(HKEY_CURRENT_USER, efectos, true).Poner(L"", L"de otro");
-    Clave(HKEY_CURRENT_USER, efectos + L"\\InprocServer32", true).Poner(L"ThreadingModel", L"Both");
-    Clave(HKEY_CURRENT_USER, base + obstaculo, true, REG_OPTION_VOLATILE);
-    const Lineas antes = b.Usuario();
-    CHECK(FAILED(b.modulo.Instalar(true, L"user")));
-    CompararLineas(b.Usuario(), antes);
-    CompararLineas(b.Maquina(), b.maquina);
-    RegDeleteTreeW(HKEY_CURRENT_USER, (base + obstaculo).c_str());
-    RegDeleteTreeW(HKEY_CURRENT_USER, efectos.c_str());
-}
-
-TEST_CASE("The library of the other width stays registered when ours goes") {
-    const Banco b;
-    const std::wstring otra = std::wstring(ClasesDeSoftware) + L"\\TypeLib\\" + Biblioteca +
-                              L"\\1.0\\409\\" + (sizeof(void*) == 8 ? L"win32" : L"win64");
-    REQUIRE(b.modulo.Instalar(true, L"user") == S_OK);
-    Clave(HKEY_CURRENT_USER, otra, true).Poner(L"", L"C:\\otro\\Pincela.ocx");
-    REQUIRE(b.modulo.Instalar(false, L"user") == S_OK);
-    CHECK(Clave(HKEY_CURRENT_USER, otra).get() != nullptr);
-    RegDeleteKeyW(HKEY_CURRENT_USER, otra.c_str());
-    REQUIRE(b.modulo.Instalar(false, L"user") == S_OK);
     CompararLineas(b.Usuario(), b.usuario);
 }
 
