@@ -194,6 +194,7 @@ HRESULT STDMETHODCALLTYPE Invoke(InterfazDual* yo, DISPID dispid, REFIID iid, LC
             return p->cArgs < m->cuantos ? DISP_E_BADPARAMCOUNT : DISP_E_PARAMNOTOPTIONAL;
     }
 
+    const windows::AritmeticaPropia propia;
     detalle::Sosten sosten(yo->objeto);
     try {
         if (yo->preparar)

@@ -1,6 +1,7 @@
 #include "componente/modulo.h"
 
 #include "componente/fabrica.h"
+#include "plataforma/windows/cerrojo.h"
 
 #include <atomic>
 #include <string>
@@ -13,15 +14,8 @@ namespace {
 HINSTANCE modulo = nullptr;
 std::atomic<long> bloqueos{0};
 
-SRWLOCK cerradura = SRWLOCK_INIT; // of what follows
-ITypeLib* biblioteca = nullptr;   // counted; released with the last object
-
-struct Guarda {
-    Guarda() { AcquireSRWLockExclusive(&cerradura); }
-    Guarda(const Guarda&) = delete;
-    Guarda& operator=(const Guarda&) = delete;
-    ~Guarda() { ReleaseSRWLockExclusive(&cerradura); }
-};
+windows::Cerrojo cerrojo;       // of what follows
+ITypeLib* biblioteca = nullptr; // counted; released with the last object
 
 } // namespace
 
@@ -36,12 +30,10 @@ void BloquearModulo() {
 void DesbloquearModulo() {
     if (--bloqueos != 0)
         return;
-    ITypeLib* vieja = nullptr;
-    {
-        const Guarda guarda;
-        vieja = std::exchange(biblioteca, nullptr);
-    }
-    if (vieja)
+    // Under the lock to the end: the platform does not like a library asked for and let go of at
+    // the same moment.
+    const windows::Cerrojo::Guarda guarda(cerrojo);
+    if (ITypeLib* vieja = std::exchange(biblioteca, nullptr))
         vieja->Release();
 }
 
@@ -51,7 +43,7 @@ bool ModuloOcioso() {
 
 HRESULT BibliotecaDeTipos(ITypeLib** salida) {
     *salida = nullptr;
-    const Guarda guarda;
+    const windows::Cerrojo::Guarda guarda(cerrojo);
     if (!biblioteca) {
         wchar_t ruta[MAX_PATH];
         const DWORD largo = GetModuleFileNameW(modulo, ruta, MAX_PATH);

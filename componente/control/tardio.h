@@ -10,9 +10,12 @@ namespace pincela::componente {
 inline bool LeerTardio(Ptr<IDispatch> objeto, DISPID dispid, VARTYPE tipo, VARIANT* valor) {
     VarianteCom leido;
     DISPPARAMS ninguno{};
-    const HRESULT estado =
-        objeto->Invoke(dispid, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &ninguno,
-                       leido.Recibir(), nullptr, nullptr);
+    HRESULT estado = E_FAIL;
+    {
+        const windows::AritmeticaAjena ajena;
+        estado = objeto->Invoke(dispid, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET,
+                                &ninguno, leido.Recibir(), nullptr, nullptr);
+    }
     if (FAILED(estado) || V_VT(&leido) == VT_EMPTY)
         return false;
     if (V_VT(&leido) == tipo) {

@@ -106,6 +106,7 @@ HRESULT ObjetoControl::GetData(FORMATETC* formato, STGMEDIUM* medio) {
     const HRESULT admitido = Admitir(formato);
     if (FAILED(admitido))
         return admitido;
+    const windows::AritmeticaPropia propia; // the platform computes the scale of the picture
     const RECT marco{0, 0, extension_.cx, extension_.cy}; // hundredths of a millimetre
     HDC dc = CreateEnhMetaFileW(nullptr, nullptr, &marco, Datos().nombre);
     if (!dc)

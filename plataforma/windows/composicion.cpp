@@ -1,8 +1,8 @@
 #include "plataforma/windows/composicion.h"
 
+#include "plataforma/windows/apartamento.h"
 #include "plataforma/windows/colores.h"
 #include "plataforma/windows/mascara.h"
-#include "plataforma/windows/modulo.h"
 
 namespace pincela::windows {
 
@@ -94,6 +94,7 @@ void DibujarPadre(Nucleo& nucleo, HDC dc) {
     ::MapWindowPoints(ventana, padre, &origen, 1);
     EstadoDc estado(dc);
     ::OffsetViewportOrgEx(dc, -origen.x, -origen.y, nullptr);
+    const AritmeticaAjena ajena;
     ::SendMessageW(padre, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
     ::SendMessageW(padre, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
     if (!testigo.expired())
@@ -109,7 +110,7 @@ void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie) {
     const RECT& sucio = pintura.Sucio();
     const auto testigo = nucleo.Testigo();
     if (sucio.right > sucio.left && sucio.bottom > sucio.top) {
-        const PrestamoDeFondo fondo(dc, {sucio.right, sucio.bottom});
+        const PrestamoDeFondo fondo(nucleo.apartamento, dc, {sucio.right, sucio.bottom});
         Destino destino;
         destino.dc = fondo.dc() ? fondo.dc() : dc;
         destino.enVentana = true;
