@@ -221,6 +221,7 @@ HRESULT STDMETHODCALLTYPE Invoke(InterfazDual* yo, DISPID dispid, REFIID iid, LC
     if (FAILED(orden))
         return SinErrorInfo(orden);
 
+    const windows::AritmeticaPropia propia;
     detalle::Sosten sosten(yo->objeto);
     // What fails before the arguments are looked at is no fault of theirs.
     argumentos.convertidos = true;

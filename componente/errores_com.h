@@ -3,6 +3,7 @@
 
 #include "common/errores.h"
 #include "componente/clases.h"
+#include "plataforma/windows/aritmetica.h"
 
 #include <windows.h>
 
@@ -34,9 +35,10 @@ HRESULT EstadoDeLaExcepcion(REFIID interfaz, const wchar_t* clase) noexcept;
 /// Fills error information for a run-time error without raising it.
 void DejarErrorInfo(REFIID interfaz, const wchar_t* clase, NumeroError numero) noexcept;
 
-/// Runs `f`, which returns a status; nothing it throws leaves.
+/// Runs `f`, which returns a status, in the component's own arithmetic; nothing it throws leaves.
 template <class F>
 HRESULT Proteger(const DatosClase& datos, F&& f) noexcept {
+    const windows::AritmeticaPropia propia;
     try {
         return f();
     } catch (...) {

@@ -68,6 +68,7 @@ class Fabrica final : public IClassFactory {
         *salida = nullptr;
         if (exterior)
             return CLASS_E_NOAGGREGATION;
+        const windows::AritmeticaPropia propia;
         try {
             IUnknown* objeto = creador_();
             const HRESULT estado = objeto->QueryInterface(iid, salida);

@@ -2,6 +2,7 @@
 
 #include "componente/fabrica.h"
 #include "componente/registro/archivos.h"
+#include "plataforma/windows/cerrojo.h"
 #include "plataforma/windows/regional.h"
 
 #include <atomic>
@@ -15,15 +16,8 @@ namespace {
 HINSTANCE modulo = nullptr;
 std::atomic<long> bloqueos{0};
 
-SRWLOCK cerradura = SRWLOCK_INIT; // of what follows
-ITypeLib* biblioteca = nullptr;   // counted; released with the last object
-
-struct Guarda {
-    Guarda() { AcquireSRWLockExclusive(&cerradura); }
-    Guarda(const Guarda&) = delete;
-    Guarda& operator=(const Guarda&) = delete;
-    ~Guarda() { ReleaseSRWLockExclusive(&cerradura); }
-};
+windows::Cerrojo cerrojo;       // of what follows
+ITypeLib* biblioteca = nullptr; // counted; released with the last object
 
 } // namespace
 
@@ -51,12 +45,10 @@ void BloquearModulo() {
 void DesbloquearModulo() {
     if (--bloqueos != 0)
         return;
-    ITypeLib* vieja = nullptr;
-    {
-        const Guarda guarda;
-        vieja = std::exchange(biblioteca, nullptr);
-    }
-    if (vieja)
+    // Under the lock to the end: the platform does not like a library asked for and let go of at
+    // the same moment.
+    const windows::Cerrojo::Guarda guarda(cerrojo);
+    if (ITypeLib* vieja = std::exchange(biblioteca, nullptr))
         vieja->Release();
 }
 
@@ -66,7 +58,7 @@ bool ModuloOcioso() {
 
 HRESULT BibliotecaDeTipos(ITypeLib** salida) {
     *salida = nullptr;
-    const Guarda guarda;
+    const windows::Cerrojo::Guarda guarda(cerrojo);
     if (!biblioteca) {
         const std::wstring ruta = ArchivoDelModulo();
         if (ruta.empty())

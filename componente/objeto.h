@@ -2,6 +2,7 @@
 #pragma once
 
 #include "componente/modulo.h"
+#include "plataforma/windows/aritmetica.h"
 
 #include <windows.h>
 
@@ -18,6 +19,7 @@ class CuentaReferencias {
         const LONG queda = InterlockedDecrement(&cuenta_);
         if (queda == 0 && !destruyendo_) {
             destruyendo_ = true;
+            const windows::AritmeticaPropia propia;
             delete objeto;
             return 0;
         }

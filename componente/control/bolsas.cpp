@@ -49,8 +49,11 @@ Variante DesdeVariantGuardado(const VARIANT& v, const Variante& porDefecto) {
 Variante BolsaCom::ReadProperty(VistaTexto clave, const Variante& porDefecto) {
     const Texto nombre(clave);
     VarianteCom valor;
-    const HRESULT estado =
-        bolsa_->Read(reinterpret_cast<LPCOLESTR>(nombre.c_str()), &valor, errores_);
+    HRESULT estado = E_FAIL;
+    {
+        const windows::AritmeticaAjena ajena;
+        estado = bolsa_->Read(reinterpret_cast<LPCOLESTR>(nombre.c_str()), &valor, errores_);
+    }
     // The one answer that means "no such key"; containers that know only failure give the other.
     if (estado == E_INVALIDARG || estado == E_FAIL)
         return porDefecto;
@@ -64,6 +67,7 @@ void BolsaCom::WriteProperty(VistaTexto clave, const Variante& valor, const Vari
     const Texto nombre(clave);
     VarianteCom v;
     HaciaVariant(valor, &v);
+    const windows::AritmeticaAjena ajena;
     Exigir(bolsa_->Write(reinterpret_cast<LPCOLESTR>(nombre.c_str()), &v));
 }
 

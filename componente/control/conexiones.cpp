@@ -49,6 +49,7 @@ void ObjetoControl::RaiseEvent(DISPID evento, VARIANTARG* argumentos, unsigned c
         VARIANTARG lista[MasArgumentos] = {};
         std::copy_n(argumentos, std::min(cuantos, MasArgumentos), lista);
         DISPPARAMS parametros{lista, nullptr, std::min(cuantos, MasArgumentos), 0};
+        const windows::AritmeticaAjena ajena;
         // A sink that fails does not keep the others from hearing.
         static_cast<IDispatch*>(sumidero)->Invoke(evento, IID_NULL, idioma, DISPATCH_METHOD,
                                                   &parametros, nullptr, nullptr, nullptr);
@@ -58,6 +59,7 @@ void ObjetoControl::RaiseEvent(DISPID evento, VARIANTARG* argumentos, unsigned c
 void ObjetoControl::AvisarCambio(DISPID dispid) {
     detalle::Sosten sosten(Identidad());
     notificaciones_.ParaCadaUno([&](IUnknown* sumidero) {
+        const windows::AritmeticaAjena ajena;
         static_cast<IPropertyNotifySink*>(sumidero)->OnChanged(dispid);
     });
 }
@@ -76,6 +78,7 @@ bool ObjetoControl::CanPropertyChange(VistaTexto clave) {
     detalle::Sosten sosten(Identidad());
     bool puede = true;
     notificaciones_.ParaCadaUno([&](IUnknown* sumidero) {
+        const windows::AritmeticaAjena ajena;
         auto* notificado = static_cast<IPropertyNotifySink*>(sumidero);
         puede = puede && notificado->OnRequestEdit(miembro->dispid) != S_FALSE;
     });

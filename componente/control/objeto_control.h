@@ -208,6 +208,7 @@ class ObjetoControl final : public IOleObject,
     /// Runs `f` on the core; a run-time error goes nowhere but to the error information.
     template <class F>
     void NucleoSeguro(F&& f) noexcept {
+        const windows::AritmeticaPropia propia;
         try {
             f(*nucleo_);
         } catch (const ErrorEjecucion& error) {

@@ -138,6 +138,7 @@ HRESULT ObjetoControl::MostrarPaginas(HWND padre) {
     if (Datos().paginas.empty())
         return OLEOBJ_S_CANNOT_DOVERB_NOW;
     IUnknown* objeto = interfaz_.Com();
+    const windows::AritmeticaAjena ajena;
     return OleCreatePropertyFrame(padre, 0, 0, Datos().nombre, 1, &objeto,
                                   static_cast<ULONG>(Datos().paginas.size()),
                                   const_cast<GUID*>(Datos().paginas.data()), Idioma(), 0, nullptr);

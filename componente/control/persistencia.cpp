@@ -27,6 +27,7 @@ HRESULT EstadoDe(Lectura lectura) {
 /// Appends exactly `cuantos` bytes. In pieces, so that a length that lies costs no memory.
 void LeerBytes(IStream& flujo, std::size_t cuantos, Bytes& bytes) {
     constexpr std::size_t trozo = 64 * 1024;
+    const windows::AritmeticaAjena ajena;
     while (cuantos > 0) {
         const std::size_t pedidos = std::min(cuantos, trozo);
         const std::size_t antes = bytes.size();
@@ -128,6 +129,7 @@ void ObjetoControl::GuardarBytes(IStream& flujo) {
     nucleo_->WriteProperties(bolsa);
     const Bytes bytes = EscribirGuardado({extension_.cx, extension_.cy, bolsa.Guardar()});
     ULONG escritos = 0;
+    const windows::AritmeticaAjena ajena;
     Exigir(flujo.Write(bytes.data(), static_cast<ULONG>(bytes.size()), &escritos));
     if (escritos != bytes.size())
         throw FalloCom{STG_E_MEDIUMFULL};

@@ -7,21 +7,6 @@ namespace {
 
 constexpr LPARAM PulsacionDeTab = 0x000F0001; // once, with the key's scan code
 
-/// How often the focus may be passed on before the user does anything. Forms in which nobody keeps
-/// it would send it round for ever.
-constexpr int PasesSeguidos = 100;
-
-bool SePuedePasar() {
-    static DWORD ultimaEntrada = 0;
-    static int pases = 0;
-    LASTINPUTINFO info{sizeof info, 0};
-    GetLastInputInfo(&info);
-    if (info.dwTime != ultimaEntrada)
-        pases = 0;
-    ultimaEntrada = info.dwTime;
-    return ++pases <= PasesSeguidos;
-}
-
 /// The window whose stops TAB goes round, and the stop that `ventana` is part of.
 struct Vuelta {
     HWND forma, parada;
@@ -51,7 +36,7 @@ bool EsDialogo(HWND ventana) {
 void ObjetoControl::EnviarTab() {
     const HWND foco = GetFocus();
     const HWND destino = foco ? foco : entorno_.VentanaDeFoco();
-    if (destino && SePuedePasar())
+    if (destino && entorno_.PuedePasarElFoco())
         PostMessageW(destino, WM_KEYDOWN, VK_TAB, PulsacionDeTab);
 }
 

@@ -8,6 +8,7 @@ namespace pincela::componente {
 /// The value of a property as it comes. The object is held meanwhile.
 inline HRESULT LeerTardio(Ptr<IDispatch> objeto, DISPID dispid, VARIANT* leido) {
     DISPPARAMS ninguno{};
+    const windows::AritmeticaAjena ajena;
     return objeto->Invoke(dispid, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &ninguno,
                           leido, nullptr, nullptr);
 }

@@ -154,6 +154,7 @@ HRESULT ObjetoControl::DarMetaficheroClasico(STGMEDIUM& medio) {
 }
 
 HRESULT ObjetoControl::DarMetafichero(STGMEDIUM& medio) {
+    const windows::AritmeticaPropia propia; // the platform computes the scale of the picture
     const RECT marco{0, 0, extension_.cx, extension_.cy}; // hundredths of a millimetre
     HDC dc = CreateEnhMetaFileW(nullptr, nullptr, &marco, Datos().nombre);
     if (!dc)

@@ -4,6 +4,7 @@
 #include "plataforma/windows/colores.h"
 #include "plataforma/windows/foco.h"
 #include "plataforma/windows/globos.h"
+#include "plataforma/windows/modulo.h"
 #include "plataforma/windows/raton.h"
 #include "plataforma/windows/temporizador_windows.h"
 

@@ -174,7 +174,7 @@ void CajaTextoWindows::PppCambiado() {
 
 RefFuenteGdi CajaTextoWindows::FuenteDeVentana() const {
     const AtributosFuente atributos = fuente_.Atributos();
-    return FuenteDeDispositivo(atributos, AltoDeFuente(atributos.Size, nucleo_.ppp));
+    return nucleo_.apartamento.FuenteDeDispositivo(atributos, AltoDeFuente(atributos.Size, nucleo_.ppp));
 }
 
 void CajaTextoWindows::PonFuenteEnVentana(RefFuenteGdi nueva) {
@@ -277,7 +277,7 @@ void CajaTextoWindows::Dibujar(const Destino& destino) const {
     ::InflateRect(&r, -std::max(1, Redondo(2 * destino.sx)), -std::max(1, Redondo(destino.sy)));
     ::IntersectClipRect(dc, r.left, r.top, r.right, r.bottom);
     const AtributosFuente atributos = fuente_.Atributos();
-    const RefFuenteGdi fuente = FuenteDeDispositivo(
+    const RefFuenteGdi fuente = nucleo_.apartamento.FuenteDeDispositivo(
         atributos, Redondo(AltoDeFuente(atributos.Size, nucleo_.ppp) * destino.sy));
     ::SelectObject(dc, fuente->manija.get()); // given back with the rest of the state
     ::SetBkMode(dc, TRANSPARENT);

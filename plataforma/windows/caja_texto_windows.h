@@ -1,8 +1,8 @@
 // Edit field: the platform's edit window, and what it holds while there is no window.
 #pragma once
 
+#include "plataforma/windows/apartamento.h"
 #include "plataforma/windows/campo_edicion.h"
-#include "plataforma/windows/modulo.h"
 #include "plataforma/windows/nucleo.h"
 #include "plataforma/windows/objetos_fuente.h"
 

@@ -1,6 +1,7 @@
 // A window class of the module.
 #pragma once
 
+#include "plataforma/windows/cerrojo.h"
 #include "plataforma/windows/modulo.h"
 
 #include <windows.h>
@@ -22,6 +23,7 @@ class ClaseDeVentana {
 
     /// Before each window; what the platform refused once is asked for again.
     void Asegurar() {
+        const Cerrojo::Guarda guarda(cerrojo_);
         if (registrada_)
             return;
         WNDCLASSEXW clase{};
@@ -38,6 +40,7 @@ class ClaseDeVentana {
     const wchar_t* nombre_;
     UINT estilo_;
     WNDPROC procedimiento_;
+    Cerrojo cerrojo_; // windows are made in every apartment
     bool registrada_ = false;
 };
 

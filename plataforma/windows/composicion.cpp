@@ -1,8 +1,8 @@
 #include "plataforma/windows/composicion.h"
 
+#include "plataforma/windows/apartamento.h"
 #include "plataforma/windows/colores.h"
 #include "plataforma/windows/mascara.h"
-#include "plataforma/windows/modulo.h"
 
 #include <algorithm>
 
@@ -110,6 +110,7 @@ void DibujarPadre(Nucleo& nucleo, HDC dc) {
     ::MapWindowPoints(ventana, padre, &origen, 1);
     EstadoDc estado(dc);
     ::OffsetViewportOrgEx(dc, -origen.x, -origen.y, nullptr);
+    const AritmeticaAjena ajena;
     ::SendMessageW(padre, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
     ::SendMessageW(padre, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
     if (!testigo.expired())
@@ -129,7 +130,7 @@ void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie) {
         // steps, so that a pattern falls on the same pixels whatever part of it is painted.
         constexpr LONG paso = 8;
         const POINT origen{sucio.left - sucio.left % paso, sucio.top - sucio.top % paso};
-        const PrestamoDeFondo fondo(dc, {sucio.right - origen.x, sucio.bottom - origen.y});
+        const PrestamoDeFondo fondo(nucleo.apartamento, dc, {sucio.right - origen.x, sucio.bottom - origen.y});
         if (fondo.dc())
             ::SetViewportOrgEx(fondo.dc(), -origen.x, -origen.y, nullptr);
         Destino destino;

@@ -75,10 +75,10 @@ class GraficosConAviso final : public Graficos {
 class EntornoWindows::Partes {
   public:
     explicit Partes(SitioControl& sitio)
-        : nucleo(sitio), graficos(nucleo), superficie(nucleo), ventana(nucleo, superficie) {}
+        : nucleo(sitio, *uso), graficos(nucleo), superficie(nucleo), ventana(nucleo, superficie) {}
     ~Partes() { nucleo.cerrando = true; }
 
-    UsoDelModulo uso;
+    UsoDelApartamento uso;
     Nucleo nucleo;
     GraficosConAviso graficos;
     SuperficieWindows superficie;
@@ -277,6 +277,9 @@ Color EntornoWindows::ColorReal(Color color) {
 bool EntornoWindows::UserMode() {
     return partes_->nucleo.sitio.UserMode();
 }
+bool EntornoWindows::PuedePasarElFoco() {
+    return partes_->nucleo.apartamento.PuedePasarElFoco();
+}
 void EntornoWindows::EnviarTab() {
     partes_->nucleo.sitio.EnviarTab();
 }
@@ -285,6 +288,7 @@ void EntornoWindows::EnviarTab() {
 // container's own loop knows its accelerators and its way through the form. What arrives meanwhile
 // stays too, or a timer that is never quite done would hold its control here.
 void EntornoWindows::DoEvents() {
+    const AritmeticaAjena ajena;
     const DWORD ahora = ::GetTickCount();
     const auto pendiente = [](MSG& mensaje) {
         return ::PeekMessageW(&mensaje, nullptr, 0, WM_KEYFIRST - 1, PM_REMOVE) ||

@@ -105,6 +105,8 @@ class EntornoWindows final : public Entorno {
     bool TieneFoco() const;
     /// The window that should get the focus when the control is UI-activated.
     HWND VentanaDeFoco() const;
+    /// Whether the focus may be passed on once more before the user does anything.
+    bool PuedePasarElFoco();
     /// Whether a window is one of the control's edit fields.
     bool EsCampo(HWND ventana) const;
     /// Name of an edit field for assistive programs; empty where the platform itself tells it.

@@ -88,9 +88,9 @@ void EtiquetaWindows::Medir() const {
     if (medida_)
         return;
     atributos_ = fuente_.Atributos();
-    manija_ = FuenteDeDispositivo(atributos_, AltoDeFuente(atributos_.Size, nucleo_.ppp));
-    tamano_ = MedirTexto(DcDeMedida(), manija_->manija.get(), texto_);
-    medida_ = manija_->manija && DcDeMedida(); // else next time, when there may be more to be had
+    manija_ = nucleo_.apartamento.FuenteDeDispositivo(atributos_, AltoDeFuente(atributos_.Size, nucleo_.ppp));
+    tamano_ = MedirTexto(nucleo_.apartamento.DcDeMedida(), manija_->manija.get(), texto_);
+    medida_ = manija_->manija && nucleo_.apartamento.DcDeMedida(); // else next time, when there may be more to be had
 }
 
 float EtiquetaWindows::Width() const {
@@ -113,7 +113,7 @@ RefFuenteGdi EtiquetaWindows::FuentePara(const Destino& destino) const {
     if (destino.TamanoNatural())
         return manija_;
     const int alto = Redondo(AltoDeFuente(atributos_.Size, nucleo_.ppp) * destino.sy);
-    auto fuente = FuenteDeDispositivo(atributos_, alto);
+    auto fuente = nucleo_.apartamento.FuenteDeDispositivo(atributos_, alto);
     const int querido = std::max(1, Redondo(static_cast<double>(tamano_.cx) * destino.sx));
     const long medido = MedirTexto(destino.dc, fuente->manija.get(), texto_).cx;
     if (medido <= 0 || std::abs(medido - querido) * 50 <= querido)
@@ -122,7 +122,7 @@ RefFuenteGdi EtiquetaWindows::FuentePara(const Destino& destino) const {
     TEXTMETRICW medidas{};
     ::GetTextMetricsW(destino.dc, &medidas);
     const int ancho = ::MulDiv(medidas.tmAveCharWidth, querido, static_cast<int>(medido));
-    return FuenteDeDispositivo(atributos_, alto, std::max(1, ancho));
+    return nucleo_.apartamento.FuenteDeDispositivo(atributos_, alto, std::max(1, ancho));
 }
 
 void EtiquetaWindows::Escribir(HDC dc, const RECT& lugar, COLORREF color) const {

@@ -1,7 +1,7 @@
 // Windowless text.
 #pragma once
 
-#include "plataforma/windows/modulo.h"
+#include "plataforma/windows/apartamento.h"
 #include "plataforma/windows/nucleo.h"
 #include "plataforma/windows/objetos_fuente.h"
 

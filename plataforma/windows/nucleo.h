@@ -1,6 +1,8 @@
 // What the pieces of one environment share: its site, its control, its window and its elements.
 #pragma once
 
+#include "plataforma/windows/apartamento.h"
+#include "plataforma/windows/aritmetica.h"
 #include "plataforma/windows/entorno_windows.h"
 #include "plataforma/windows/escena.h"
 
@@ -23,9 +25,11 @@ class Sosten {
     SitioControl& sitio_;
 };
 
-/// Runs what the platform asked for; whatever is thrown ends as a notification to the site.
+/// Runs what the platform asked for, in the component's own arithmetic; whatever is thrown ends as
+/// a notification to the site.
 template <class Accion>
 void Proteger(SitioControl& sitio, Accion&& accion) noexcept {
+    const AritmeticaPropia propia;
     try {
         accion();
     } catch (const ErrorEjecucion& error) {
@@ -39,11 +43,13 @@ void Proteger(SitioControl& sitio, Accion&& accion) noexcept {
 
 class Nucleo {
   public:
-    explicit Nucleo(SitioControl& elSitio) : sitio(elSitio) {}
+    Nucleo(SitioControl& elSitio, Apartamento& elApartamento)
+        : sitio(elSitio), apartamento(elApartamento) {}
     Nucleo(const Nucleo&) = delete;
     Nucleo& operator=(const Nucleo&) = delete;
 
     SitioControl& sitio;
+    Apartamento& apartamento;
     ControlUsuario* control = nullptr;
     bool cerrando = false; // the control is going: nothing is told any more
     HWND ventana = nullptr;

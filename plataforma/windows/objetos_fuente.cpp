@@ -1,6 +1,7 @@
 #include "plataforma/windows/objetos_fuente.h"
 
 #include "common/errores.h"
+#include "plataforma/windows/aritmetica.h"
 
 #include <olectl.h>
 
@@ -33,6 +34,7 @@ class AvisoDeFuente final : public IPropertyNotifySink {
         return quedan;
     }
     STDMETHODIMP OnChanged(DISPID) override {
+        const AritmeticaPropia propia;
         PunteroCom<AvisoDeFuente> sostenido(this);
         try {
             if (dueno_)

@@ -1,5 +1,6 @@
 #include "plataforma/windows/pagina_windows.h"
 
+#include "plataforma/windows/aritmetica.h"
 #include "plataforma/windows/clase_de_ventana.h"
 #include "plataforma/windows/colores.h"
 #include "plataforma/windows/entorno_windows.h"
@@ -199,6 +200,7 @@ INT_PTR CALLBACK PaginaWindows::Procesar(HWND ventana, UINT mensaje, WPARAM w, L
         return FALSE; // whoever shows the page says where the focus goes
     }
     auto* pagina = reinterpret_cast<PaginaWindows*>(::GetWindowLongPtrW(ventana, DWLP_USER));
+    const AritmeticaPropia propia;
     try {
         return pagina && pagina->Tratar(mensaje, w, l);
     } catch (...) {
@@ -232,6 +234,7 @@ HWND PaginaWindows::Duena() const {
 
 // An edit has no caller to tell of its error: the user is told.
 void PaginaWindows::Avisar(const std::function<void()>& manejador) {
+    const AritmeticaPropia propia;
     sitio_.Sostener();
     try {
         Texto descripcion;
@@ -240,6 +243,7 @@ void PaginaWindows::Avisar(const std::function<void()>& manejador) {
         } catch (const ErrorEjecucion& error) {
             descripcion = DescripcionDe(error.Numero());
         }
+        const AritmeticaAjena ajena; // the message runs the program's own messages
         if (!descripcion.empty())
             ::MessageBoxW(Duena(), Ancho(descripcion), TituloDeMensajes,
                           MB_OK | MB_ICONEXCLAMATION);
@@ -250,6 +254,7 @@ void PaginaWindows::Avisar(const std::function<void()>& manejador) {
 }
 
 void PaginaWindows::Informar(VistaTexto mensaje) {
+    const AritmeticaAjena ajena;
     ::MessageBoxW(Duena(), Ancho(Texto(mensaje)), TituloDeMensajes, MB_OK | MB_ICONINFORMATION);
 }
 
@@ -260,6 +265,7 @@ Color PaginaWindows::ElegirColor(Color inicial) {
     eleccion.rgbResult = Resolver(inicial);
     eleccion.lpCustColors = coloresPropios_.data();
     eleccion.Flags = CC_RGBINIT | CC_ANYCOLOR;
+    const AritmeticaAjena ajena;
     // A system colour that was confirmed goes on following the theme.
     if (!::ChooseColorW(&eleccion) || eleccion.rgbResult == Resolver(inicial))
         return inicial;

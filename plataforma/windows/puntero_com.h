@@ -1,14 +1,41 @@
 // Owning interface pointer.
 #pragma once
 
+#include "plataforma/windows/aritmetica.h"
+
 #include <windows.h>
 
-#include <unknwn.h>
+#include <ocidl.h>
 
+#include <concepts>
 #include <cstddef>
 #include <utility>
 
 namespace pincela::windows {
+
+/// Interfaces behind which the container's own code runs, in the container's own arithmetic.
+template <class T>
+concept DelContenedor = std::same_as<T, IOleClientSite> || std::same_as<T, IOleControlSite> ||
+    std::same_as<T, IOleInPlaceSite> || std::same_as<T, IOleInPlaceFrame> ||
+    std::same_as<T, IOleInPlaceUIWindow> || std::same_as<T, ISimpleFrameSite> ||
+    std::same_as<T, IAdviseSink> || std::same_as<T, IOleAdviseHolder> ||
+    std::same_as<T, IDataAdviseHolder> || std::same_as<T, IPropertyPageSite> ||
+    std::same_as<T, IOleContainer> || std::same_as<T, IEnumUnknown> ||
+    std::same_as<T, IOleWindow> || std::same_as<T, IOleObject>;
+
+/// One call to the outside; ends with the expression that makes it.
+template <class T>
+class LlamadaAfuera {
+  public:
+    explicit LlamadaAfuera(T* p) : p_(p) {}
+    LlamadaAfuera(const LlamadaAfuera&) = delete;
+    LlamadaAfuera& operator=(const LlamadaAfuera&) = delete;
+    T* operator->() const { return p_; }
+
+  private:
+    T* p_;
+    AritmeticaAjena ajena_;
+};
 
 /// Counted reference to an object of the platform. The member is cleared before the old object is
 /// released, since a release may call back.
@@ -52,7 +79,8 @@ class PunteroCom {
     T* Ceder() { return std::exchange(p_, nullptr); }
 
     T* get() const { return p_; }
-    T* operator->() const { return p_; }
+    T* operator->() const requires(!DelContenedor<T>) { return p_; }
+    LlamadaAfuera<T> operator->() const requires DelContenedor<T> { return LlamadaAfuera<T>(p_); }
     explicit operator bool() const { return p_ != nullptr; }
 
     /// For calls that return a reference through a parameter; what was held is released first.

@@ -1,5 +1,7 @@
 #include "plataforma/windows/temporizador_windows.h"
 
+#include "plataforma/windows/cerrojo.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -15,14 +17,22 @@ constexpr std::int32_t Reposo = 100; // milliseconds
 constexpr int TicsHastaReposo = 10;
 
 struct EnMarcha {
+    DWORD hilo; // numbers of different threads may be equal
     UINT_PTR numero;
     TemporizadorWindows* temporizador;
 };
 
-// The platform calls with a number; a timer that is gone is simply not found here.
-std::vector<EnMarcha>& LosEnMarcha() {
-    static std::vector<EnMarcha> enMarcha;
-    return enMarcha;
+// The platform calls with a number; a timer that is gone is simply not found here. Only the list is
+// shared: a timer itself is touched in its own apartment alone.
+Cerrojo cerrojo;
+std::vector<EnMarcha> losEnMarcha;
+
+TemporizadorWindows* ElDeNumero(UINT_PTR numero) {
+    const Cerrojo::Guarda guarda(cerrojo);
+    for (const EnMarcha& una : losEnMarcha)
+        if (una.numero == numero && una.hilo == ::GetCurrentThreadId())
+            return una.temporizador;
+    return nullptr;
 }
 
 } // namespace
@@ -51,12 +61,12 @@ void TemporizadorWindows::PonEnabled(bool valor) {
 void TemporizadorWindows::Arrancar() {
     if (!habilitado_ || intervalo_ <= 0)
         return;
-    auto& enMarcha = LosEnMarcha();
-    enMarcha.reserve(enMarcha.size() + 1);
+    const Cerrojo::Guarda guarda(cerrojo);
+    losEnMarcha.reserve(losEnMarcha.size() + 1);
     const std::int32_t cadencia = std::max(intervalo_, Descansa() ? Reposo : Cuadro);
     numero_ = ::SetTimer(nullptr, 0, static_cast<UINT>(cadencia), &TemporizadorWindows::Tic);
     if (numero_)
-        enMarcha.push_back({numero_, this});
+        losEnMarcha.push_back({::GetCurrentThreadId(), numero_, this});
 }
 
 void TemporizadorWindows::Parar() {
@@ -64,7 +74,8 @@ void TemporizadorWindows::Parar() {
     if (!numero)
         return;
     ::KillTimer(nullptr, numero);
-    std::erase_if(LosEnMarcha(), [this](const EnMarcha& e) { return e.temporizador == this; });
+    const Cerrojo::Guarda guarda(cerrojo);
+    std::erase_if(losEnMarcha, [this](const EnMarcha& e) { return e.temporizador == this; });
 }
 
 bool TemporizadorWindows::Vigila() const {
@@ -86,7 +97,8 @@ void TemporizadorWindows::Cambiar(int tics) {
 
 std::vector<TemporizadorWindows*> TemporizadorWindows::Vigias(const Nucleo& nucleo) {
     std::vector<TemporizadorWindows*> vigias;
-    for (const EnMarcha& una : LosEnMarcha())
+    const Cerrojo::Guarda guarda(cerrojo);
+    for (const EnMarcha& una : losEnMarcha)
         if (&una.temporizador->nucleo_ == &nucleo && una.temporizador->Vigila())
             vigias.push_back(una.temporizador);
     return vigias;
@@ -108,18 +120,16 @@ void TemporizadorWindows::RatonSale(const Nucleo& nucleo) {
 }
 
 void CALLBACK TemporizadorWindows::Tic(HWND, UINT, UINT_PTR numero, DWORD) noexcept {
-    auto& enMarcha = LosEnMarcha();
-    const auto lugar = std::find_if(enMarcha.begin(), enMarcha.end(),
-                                    [numero](const EnMarcha& e) { return e.numero == numero; });
-    if (lugar == enMarcha.end())
+    TemporizadorWindows* const suyo = ElDeNumero(numero);
+    if (!suyo)
         return;
-    TemporizadorWindows& temporizador = *lugar->temporizador;
-    if (temporizador.tics_ < TicsHastaReposo)
-        temporizador.Cambiar(temporizador.tics_ + 1);
+    TemporizadorWindows& temporizador = *suyo;
     SitioControl& sitio = temporizador.nucleo_.sitio;
     Sosten sosten(sitio);
-    // A copy: the timer may die in its own tick.
     Proteger(sitio, [&temporizador] {
+        if (temporizador.tics_ < TicsHastaReposo)
+            temporizador.Cambiar(temporizador.tics_ + 1);
+        // A copy: the timer may die in its own tick.
         if (const auto accion = temporizador.accion_)
             accion();
     });

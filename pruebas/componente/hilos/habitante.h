@@ -1,0 +1,55 @@
+// Who lives in an apartment: a form of its own with all kinds of controls, used as a user and a
+// program use them. What is seen and read back must be what was put in here, whatever the other
+// apartments are doing.
+#pragma once
+
+#include "anfitrion/captura.h"
+#include "anfitrion/formulario.h"
+#include "pruebas/componente/comun/lamina.h"
+#include "pruebas/componente/hilos/hilo.h"
+
+#include <array>
+#include <random>
+
+namespace hilos {
+
+using namespace anfitrion;
+
+inline constexpr std::array<const wchar_t*, 6> Controles{L"Botonazo", L"Area",   L"Tbox",
+                                                         L"TBoxML",   L"TboxSS", L"TboxSSML"};
+
+/// A look of each control that is always the same.
+using Vistas = std::vector<Captura>;
+
+class Habitante {
+  public:
+    /// `numero`, from 0, decides what it does and where its form stands.
+    Habitante(unsigned numero, Faltas& faltas);
+
+    Vistas Retratar();
+    /// One round over all controls; `modelos` is what they looked like when they were alone.
+    void Vuelta(const Vistas& modelos);
+
+  private:
+    std::shared_ptr<ControlAlojado> Agregar(const wchar_t* clase);
+    Captura Retrato(const wchar_t* clase);
+    void Vestir(IDispatch* control);
+    void Releer(const wchar_t* clase, ControlAlojado& control);
+    void Teclear(const wchar_t* clase, ControlAlojado& control);
+    void Guardar(const wchar_t* clase, ControlAlojado& control);
+    void Manosear(ControlAlojado& control);
+    void Degradar();
+    long Menor(long tope) { return static_cast<long>(azar_() % static_cast<unsigned long>(tope)); }
+    void Exigir(bool cierto, const std::string& que);
+
+    std::mt19937 azar_;
+    Faltas& faltas_;
+    Componente componente_;
+    Formulario forma_;
+    Puntero<IDispatch> efectos_;
+    publicado::Lamina lamina_, esperada_;
+    long vuelta_ = 0;
+    std::wstring propio_; // a text that no other apartment has
+};
+
+} // namespace hilos
