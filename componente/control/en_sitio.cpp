@@ -3,6 +3,13 @@
 
 namespace pincela::componente {
 
+namespace {
+
+/// Stays where a site leaves its clip rectangle unwritten: an empty one hides the control.
+constexpr RECT SinRecorte{LONG_MIN, LONG_MIN, LONG_MAX, LONG_MAX};
+
+} // namespace
+
 HRESULT ObjetoControl::Activar(bool conFoco, HWND padre, const RECT* lugar) {
     Preparar();
     if (!activoEnSitio_) {
@@ -19,19 +26,21 @@ HRESULT ObjetoControl::Activar(bool conFoco, HWND padre, const RECT* lugar) {
         if (FAILED(sitio->GetWindow(&ventanaPadre)) || !ventanaPadre)
             ventanaPadre = padre;
         RECT posicion = lugar ? *lugar : RECT{};
-        RECT recorte{};
+        RECT recorte = SinRecorte;
         OLEINPLACEFRAMEINFO info{};
         info.cb = sizeof info;
         RECT pedida{};
         if (SUCCEEDED(sitio->GetWindowContext(marco_.Recibir(), documento_.Recibir(), &pedida,
                                               &recorte, &info)))
             posicion = pedida;
+        else
+            recorte = SinRecorte;
         if (!activoEnSitio_) // closed from inside one of those calls
             return E_UNEXPECTED;
         PonPppDe(ventanaPadre);
         HWND ventana = nullptr;
         try {
-            ventana = entorno_.CrearVentana(ventanaPadre, posicion);
+            ventana = entorno_.CrearVentana(ventanaPadre, posicion, &recorte);
         } catch (...) {
             saliendo_ = true;
             entorno_.DestruirVentana();
@@ -147,11 +156,11 @@ HRESULT ObjetoControl::SetObjectRects(LPCRECT lugar, LPCRECT recorte) {
     });
 }
 
-void ObjetoControl::Mover(const RECT& lugar, const RECT*) {
+void ObjetoControl::Mover(const RECT& lugar, const RECT* recorte) {
     if (!activoEnSitio_)
         return;
     const SIZE antes = entorno_.Tamano();
-    entorno_.MoverVentana(lugar);
+    entorno_.MoverVentana(lugar, recorte);
     const SIZE ahora = entorno_.Tamano();
     if (antes.cx != ahora.cx || antes.cy != ahora.cy)
         extension_ = AHimetric(ahora);

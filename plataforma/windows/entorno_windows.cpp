@@ -49,14 +49,23 @@ class GraficosConAviso final : public Graficos {
                                           altoElipse);
     }
     void SetWindowRgn(Manejador ventana, Manejador region, bool redibujar) override {
-        if (ventana)
+        // Of the region that is set this shape is one part; the caller keeps its own.
+        if (ventana && reinterpret_cast<HWND>(ventana) == nucleo_.ventana)
+            nucleo_.silueta->PonForma(reinterpret_cast<HRGN>(region));
+        else if (ventana)
             reales_.SetWindowRgn(ventana, region, redibujar);
     }
     void DeleteObject(Manejador objeto) override { reales_.DeleteObject(objeto); }
     PuntoPantalla GetCursorPos() override { return reales_.GetCursorPos(); }
     // Asked only to know whether it is the control's own window.
     Manejador WindowFromPoint(PuntoPantalla punto) override {
-        return nucleo_.ventana ? reales_.WindowFromPoint(punto) : 0;
+        if (!nucleo_.ventana)
+            return 0;
+        const Manejador bajo = reales_.WindowFromPoint(punto);
+        const HWND velo = reinterpret_cast<HWND>(bajo);
+        return Velo::EsVelo(velo)
+                   ? reinterpret_cast<Manejador>(Velo::SuperficieEn(velo, {punto.x, punto.y}))
+                   : bajo;
     }
 
   private:
@@ -120,8 +129,8 @@ int EntornoWindows::Ppp() const {
     return partes_->nucleo.ppp;
 }
 
-HWND EntornoWindows::CrearVentana(HWND padre, const RECT& lugar) {
-    return partes_->ventana.Crear(padre, lugar);
+HWND EntornoWindows::CrearVentana(HWND padre, const RECT& lugar, const RECT* recorte) {
+    return partes_->ventana.Crear(padre, lugar, recorte);
 }
 void EntornoWindows::DestruirVentana() {
     partes_->ventana.Destruir();
@@ -130,11 +139,9 @@ HWND EntornoWindows::Ventana() const {
     return partes_->nucleo.ventana;
 }
 
-void EntornoWindows::MoverVentana(const RECT& lugar) {
+void EntornoWindows::MoverVentana(const RECT& lugar, const RECT* recorte) {
     if (partes_->nucleo.ventana)
-        ::SetWindowPos(partes_->nucleo.ventana, nullptr, lugar.left, lugar.top,
-                       lugar.right - lugar.left, lugar.bottom - lugar.top,
-                       SWP_NOZORDER | SWP_NOACTIVATE);
+        partes_->ventana.Mover(lugar, recorte);
     else
         PonTamano({lugar.right - lugar.left, lugar.bottom - lugar.top}, true);
 }
@@ -171,6 +178,11 @@ void EntornoWindows::Dibujar(HDC dc, const RECT& destino, SIZE elipse) {
     ::IntersectClipRect(dc, destino.left, destino.top, destino.right, destino.bottom);
     RecortarForma(dc, escala, tamano, elipse);
     Componer(partes_->nucleo, partes_->superficie, escala);
+}
+
+void EntornoWindows::ContenedorCambiado() {
+    if (partes_->nucleo.ventana)
+        partes_->nucleo.silueta->Renovar();
 }
 
 bool EntornoWindows::TieneFoco() const {
