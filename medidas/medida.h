@@ -44,5 +44,6 @@ bool MedirCrear();
 bool MedirCargar();
 bool MedirMemoria();
 bool MedirTamanio();
+bool MedirTransparencia();
 
 } // namespace medidas

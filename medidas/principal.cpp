@@ -24,9 +24,10 @@ const struct {
     const char* nombre;
     bool (*medir)();
 } Medidas[] = {
-    {"degrade", MedirDegrade}, {"pintar", MedirPintar}, {"invoke", MedirInvoke},
-    {"crear", MedirCrear},     {"cargar", MedirCargar}, {"memoria", MedirMemoria},
-    {"tamanio", MedirTamanio},
+    {"degrade", MedirDegrade}, {"pintar", MedirPintar},
+    {"invoke", MedirInvoke},   {"crear", MedirCrear},
+    {"cargar", MedirCargar},   {"memoria", MedirMemoria},
+    {"tamanio", MedirTamanio}, {"transparencia", MedirTransparencia},
 };
 
 bool Pedida(const char* nombre, int cuantos, char** nombres) {

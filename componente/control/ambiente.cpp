@@ -160,8 +160,8 @@ HRESULT ObjetoControl::OnAmbientPropertyChange(DISPID dispid) {
         }
         entorno_.ActualizarFoco();
         // What is transparent shows the container's colours.
-        if (es(DISPID_AMBIENT_BACKCOLOR) && entorno_.Ventana())
-            InvalidateRect(entorno_.Ventana(), nullptr, FALSE);
+        if (es(DISPID_AMBIENT_BACKCOLOR) || es(DISPID_AMBIENT_USERMODE))
+            entorno_.ContenedorCambiado();
         return S_OK;
     });
 }

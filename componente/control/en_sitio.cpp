@@ -34,6 +34,9 @@ SIZE MedidaPedida(SIZE ventana, SIZE pedida) {
     return {lado(ventana.cx, pedida.cx), lado(ventana.cy, pedida.cy)};
 }
 
+/// Stays where a site leaves its clip rectangle unwritten: an empty one hides the control.
+constexpr RECT SinRecorte{LONG_MIN, LONG_MIN, LONG_MAX, LONG_MAX};
+
 } // namespace
 
 HRESULT ObjetoControl::Activar(bool conFoco, HWND padre, const RECT* lugar) {
@@ -96,7 +99,7 @@ HRESULT ObjetoControl::HacerVentana(IOleInPlaceSite& sitio, HWND padre, const RE
         ventanaPadre = padre;
     Ptr<IOleInPlaceFrame> marco;
     Ptr<IOleInPlaceUIWindow> documento;
-    RECT pedida{}, recorte{};
+    RECT pedida{}, recorte = SinRecorte;
     OLEINPLACEFRAMEINFO info{};
     info.cb = sizeof info;
     const HRESULT conContexto =
@@ -108,8 +111,11 @@ HRESULT ObjetoControl::HacerVentana(IOleInPlaceSite& sitio, HWND padre, const RE
     if (Rehusa(conContexto))
         return conContexto;
     // A container that says that all went well and gives no place means the one of the verb.
-    if (lugar && (FAILED(conContexto) || EsNada(pedida)))
-        pedida = *lugar;
+    if (FAILED(conContexto) || EsNada(pedida)) {
+        recorte = SinRecorte;
+        if (lugar)
+            pedida = *lugar;
+    }
     if (!activoEnSitio_) // closed from inside one of those calls
         return E_UNEXPECTED;
     if (entorno_.Ventana()) // or activated once more
@@ -118,7 +124,7 @@ HRESULT ObjetoControl::HacerVentana(IOleInPlaceSite& sitio, HWND padre, const RE
     documento_ = std::move(documento);
     PonPppDe(ventanaPadre);
     try {
-        if (!entorno_.CrearVentana(ventanaPadre, pedida))
+        if (!entorno_.CrearVentana(ventanaPadre, pedida, &recorte))
             return activoEnSitio_ ? E_FAIL : E_UNEXPECTED;
     } catch (...) {
         saliendo_ = true;
@@ -227,11 +233,11 @@ HRESULT ObjetoControl::SetObjectRects(LPCRECT lugar, LPCRECT recorte) {
     });
 }
 
-void ObjetoControl::Mover(const RECT& lugar, const RECT*) {
+void ObjetoControl::Mover(const RECT& lugar, const RECT* recorte) {
     if (!activoEnSitio_)
         return;
     const SIZE antes = entorno_.Tamano();
-    entorno_.MoverVentana(lugar);
+    entorno_.MoverVentana(lugar, recorte);
     const SIZE ahora = entorno_.Tamano();
     const SIZE pedida = MedidaPedida(ahora, MedidaDe(lugar));
     if (antes.cx != ahora.cx || antes.cy != ahora.cy || pedida.cx != ahora.cx ||

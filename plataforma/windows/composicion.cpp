@@ -99,6 +99,29 @@ void Componer(const Nucleo& nucleo, SuperficieWindows& superficie, const Destino
     nucleo.escena.Dibujar(destino);
 }
 
+DuenoRegion LoDibujado(const Nucleo& nucleo, SuperficieWindows& superficie, bool& mezclada) {
+    mezclada = false;
+    const SIZE tamano = superficie.Tamano();
+    if (tamano.cx <= 0 || tamano.cy <= 0 ||
+        (nucleo.escena.Vacia() && !superficie.lienzo().imagen().Existe()))
+        return DuenoRegion(::CreateRectRgn(0, 0, 0, 0));
+    ImagenDib hojas[]{ImagenDib(Color(std::uint32_t{0x000000})),
+                      ImagenDib(Color(std::uint32_t{0xFFFFFF}))};
+    for (ImagenDib& hoja : hojas) {
+        hoja.PonTamano(tamano.cx, tamano.cy, hoja.Fondo());
+        Destino destino;
+        destino.dc = hoja.Dc();
+        destino.enVentana = true;
+        if (!destino.dc)
+            return DuenoRegion();
+        const EstadoDc estado(destino.dc);
+        Componer(nucleo, superficie, destino);
+    }
+    const std::uint32_t* negra = hojas[0].Pixeles();
+    const std::uint32_t* blanca = hojas[1].Pixeles();
+    return negra && blanca ? RegionDibujada(negra, blanca, tamano, mezclada) : DuenoRegion();
+}
+
 void DibujarPadre(Nucleo& nucleo, HDC dc) {
     const HWND ventana = nucleo.ventana, padre = ::GetParent(ventana);
     // A parent that prints its children too asks for this one again, which would never end.
@@ -117,20 +140,22 @@ void DibujarPadre(Nucleo& nucleo, HDC dc) {
         nucleo.dibujandoPadre = false;
 }
 
-void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie) {
+bool PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie, Silueta& silueta) {
     const Pintura pintura(nucleo.ventana);
     const HDC dc = pintura.dc();
     if (!dc)
-        return;
+        return false;
     nucleo.VistaDibujada();
     const RECT& sucio = pintura.Sucio();
     const auto testigo = nucleo.Testigo();
-    if (sucio.right > sucio.left && sucio.bottom > sucio.top) {
+    const bool hay = sucio.right > sucio.left && sucio.bottom > sucio.top;
+    if (hay) {
         // No more than what is to be painted of a window that may be larger than any screen. Whole
         // steps, so that a pattern falls on the same pixels whatever part of it is painted.
         constexpr LONG paso = 8;
         const POINT origen{sucio.left - sucio.left % paso, sucio.top - sucio.top % paso};
-        const PrestamoDeFondo fondo(nucleo.apartamento, dc, {sucio.right - origen.x, sucio.bottom - origen.y});
+        const PrestamoDeFondo fondo(nucleo.apartamento, dc,
+                                    {sucio.right - origen.x, sucio.bottom - origen.y});
         if (fondo.dc())
             ::SetViewportOrgEx(fondo.dc(), -origen.x, -origen.y, nullptr);
         Destino destino;
@@ -141,13 +166,14 @@ void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie) {
                             sucio.bottom >= tamano.cy;
         if (fondo.dc() && !entera)
             ::IntersectClipRect(fondo.dc(), sucio.left, sucio.top, sucio.right, sucio.bottom);
-        if (superficie.Transparente())
+        if (superficie.Transparente() && silueta.PideFondo())
             DibujarPadre(nucleo, destino.dc);
         if (!testigo.expired())
             Componer(nucleo, superficie, destino);
         if (fondo.dc())
             CopiarEntera(dc, fondo.dc(), sucio);
     }
+    return hay;
 }
 
 void ImprimirVentana(Nucleo& nucleo, SuperficieWindows& superficie, HDC dc, LPARAM banderas,

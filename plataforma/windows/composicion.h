@@ -1,7 +1,7 @@
 // What a surface looks like: background, image and elements, in any context at any scale.
 #pragma once
 
-#include "plataforma/windows/superficie_windows.h"
+#include "plataforma/windows/silueta.h"
 
 namespace pincela::windows {
 
@@ -14,8 +14,13 @@ void ComponerColor(SuperficieWindows& superficie, const Destino& destino);
 /// Asks the window's parent to draw itself as it is behind the window; it may end everything.
 void DibujarPadre(Nucleo& nucleo, HDC dc);
 
-/// Answers WM_PAINT: composes what needs painting off screen and copies it once.
-void PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie);
+/// The pixels of a transparent surface's window that are drawn on; null without memory. `mezclada`
+/// tells whether what is behind is seen through any of them.
+DuenoRegion LoDibujado(const Nucleo& nucleo, SuperficieWindows& superficie, bool& mezclada);
+
+/// Answers WM_PAINT: composes what needs painting off screen and copies it once. True when anything
+/// of the surface itself did.
+bool PintarVentana(Nucleo& nucleo, SuperficieWindows& superficie, Silueta& silueta);
 
 /// Answers WM_PRINT and WM_PRINTCLIENT.
 void ImprimirVentana(Nucleo& nucleo, SuperficieWindows& superficie, HDC dc, LPARAM banderas,

@@ -52,7 +52,10 @@ class GraficosConAviso final : public Graficos {
                                : 0;
     }
     void SetWindowRgn(Manejador ventana, Manejador region, bool redibujar) override {
-        if (ventana)
+        // Of the region that is set this shape is one part; the caller keeps its own.
+        if (ventana && reinterpret_cast<HWND>(ventana) == nucleo_.ventana)
+            nucleo_.silueta->PonForma(reinterpret_cast<HRGN>(region));
+        else if (ventana)
             reales_.SetWindowRgn(ventana, region, redibujar);
     }
     void DeleteObject(Manejador objeto) override {
@@ -62,7 +65,13 @@ class GraficosConAviso final : public Graficos {
     PuntoPantalla GetCursorPos() override { return reales_.GetCursorPos(); }
     // Asked only to know whether it is the control's own window.
     Manejador WindowFromPoint(PuntoPantalla punto) override {
-        return nucleo_.ventana ? reales_.WindowFromPoint(punto) : 0;
+        if (!nucleo_.ventana)
+            return 0;
+        const Manejador bajo = reales_.WindowFromPoint(punto);
+        const HWND velo = reinterpret_cast<HWND>(bajo);
+        return Velo::EsVelo(velo)
+                   ? reinterpret_cast<Manejador>(Velo::SuperficieEn(velo, {punto.x, punto.y}))
+                   : bajo;
     }
 
   private:
@@ -126,8 +135,8 @@ int EntornoWindows::Ppp() const {
     return partes_->nucleo.ppp;
 }
 
-HWND EntornoWindows::CrearVentana(HWND padre, const RECT& lugar) {
-    return partes_->ventana.Crear(padre, lugar);
+HWND EntornoWindows::CrearVentana(HWND padre, const RECT& lugar, const RECT* recorte) {
+    return partes_->ventana.Crear(padre, lugar, recorte);
 }
 void EntornoWindows::DestruirVentana() {
     partes_->ventana.Destruir();
@@ -136,11 +145,10 @@ HWND EntornoWindows::Ventana() const {
     return partes_->nucleo.ventana;
 }
 
-void EntornoWindows::MoverVentana(const RECT& lugar) {
+void EntornoWindows::MoverVentana(const RECT& lugar, const RECT* recorte) {
     const RECT r = LugarDeVentana(lugar);
     if (partes_->nucleo.ventana)
-        ::SetWindowPos(partes_->nucleo.ventana, nullptr, r.left, r.top, r.right - r.left,
-                       r.bottom - r.top, SWP_NOZORDER | SWP_NOACTIVATE);
+        partes_->ventana.Mover(r, recorte);
     else
         PonTamano({r.right - r.left, r.bottom - r.top}, true);
 }
@@ -208,6 +216,11 @@ void EntornoWindows::SoltarRaton() {
 
 void EntornoWindows::ActualizarFoco() {
     FocoDescongelado(partes_->nucleo);
+}
+
+void EntornoWindows::ContenedorCambiado() {
+    if (partes_->nucleo.ventana)
+        partes_->nucleo.silueta->Renovar();
 }
 
 bool EntornoWindows::TieneFoco() const {

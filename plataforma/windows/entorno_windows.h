@@ -83,12 +83,17 @@ class EntornoWindows final : public Entorno {
 
     /// Makes the window as a child of `padre` at `lugar` (client pixels of the parent), visible,
     /// and its edit fields in it. Null when the platform refuses. The caller then delivers Resize.
-    HWND CrearVentana(HWND padre, const RECT& lugar);
+    /// `recorte`, in client pixels of the parent too, limits what is seen of it; null for no limit.
+    HWND CrearVentana(HWND padre, const RECT& lugar, const RECT* recorte = nullptr);
     void DestruirVentana();
     HWND Ventana() const;
     /// Moves the window, and the surface's size with it; the control gets Resize when the size
-    /// changed, as it does when anybody else sizes the window.
-    void MoverVentana(const RECT& lugar);
+    /// changed, as it does when anybody else sizes the window. `recorte` replaces the former one.
+    void MoverVentana(const RECT& lugar, const RECT* recorte = nullptr);
+
+    /// The container's background or mode is another: what a transparent surface shows of it is
+    /// looked at again.
+    void ContenedorCambiado();
 
     /// A press in course is forgotten: the mouse is everybody's again.
     void SoltarRaton();

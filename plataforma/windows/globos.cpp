@@ -1,6 +1,7 @@
 #include "plataforma/windows/globos.h"
 
 #include "plataforma/windows/modulo.h"
+#include "plataforma/windows/velo.h"
 
 #include <commctrl.h>
 #include <windowsx.h>
@@ -38,11 +39,20 @@ bool Globos::Crear() {
     if (!ventana_)
         return false;
     ::SendMessageW(ventana_.get(), TTM_SETMAXTIPWIDTH, 0, AnchoMaximo);
-    wchar_t nada[] = L"";
-    TTTOOLINFOW info = Herramienta(nucleo_.ventana);
-    info.lpszText = nada;
-    ::SendMessageW(ventana_.get(), TTM_ADDTOOLW, 0, ALParam(info));
+    Anadir(nucleo_.ventana);
     return true;
+}
+
+void Globos::Anadir(HWND herramienta) {
+    TTTOOLINFOW info = Herramienta(herramienta);
+    info.lpszText = reinterpret_cast<wchar_t*>(texto_.data());
+    ::SendMessageW(ventana_.get(), TTM_ADDTOOLW, 0, ALParam(info));
+}
+
+void Globos::PedirTexto(HWND herramienta) {
+    TTTOOLINFOW info = Herramienta(herramienta);
+    info.lpszText = reinterpret_cast<wchar_t*>(texto_.data());
+    ::SendMessageW(ventana_.get(), TTM_UPDATETIPTEXTW, 0, ALParam(info));
 }
 
 void Globos::PonTexto(Texto texto) {
@@ -51,10 +61,10 @@ void Globos::PonTexto(Texto texto) {
     if (texto.empty() ? !ventana_ : !Crear())
         return;
     texto_ = std::move(texto);
-    TTTOOLINFOW info = Herramienta(nucleo_.ventana);
-    info.lpszText = reinterpret_cast<wchar_t*>(texto_.data());
     ::SendMessageW(ventana_.get(), TTM_POP, 0, 0);
-    ::SendMessageW(ventana_.get(), TTM_UPDATETIPTEXTW, 0, ALParam(info));
+    PedirTexto(nucleo_.ventana);
+    if (velo_)
+        PedirTexto(velo_);
 }
 
 void Globos::Mensaje(UINT mensaje, WPARAM w, LPARAM l) {
@@ -64,16 +74,25 @@ void Globos::Mensaje(UINT mensaje, WPARAM w, LPARAM l) {
                                     static_cast<float>(GET_Y_LPARAM(l))));
     if (!ventana_)
         return;
-    TTTOOLINFOW info = Herramienta(nucleo_.ventana);
-    ::GetClientRect(nucleo_.ventana, &info.rect);
+    // The tips look for the tool of the very window that the mouse is over.
+    const HWND desde = Velo::BajoElRaton(nucleo_.ventana);
+    if (desde != nucleo_.ventana && desde != velo_)
+        Anadir(velo_ = desde);
+    TTTOOLINFOW info = Herramienta(desde);
+    ::GetWindowRect(nucleo_.ventana, &info.rect);
+    ::MapWindowPoints(HWND_DESKTOP, desde, reinterpret_cast<POINT*>(&info.rect), 2);
     ::SendMessageW(ventana_.get(), TTM_NEWTOOLRECTW, 0, ALParam(info));
-    MSG aviso{nucleo_.ventana, mensaje, w, l, static_cast<DWORD>(::GetMessageTime()), {}};
+    POINT punto{GET_X_LPARAM(l), GET_Y_LPARAM(l)};
+    ::MapWindowPoints(nucleo_.ventana, desde, &punto, 1);
+    l = MAKELPARAM(punto.x, punto.y);
+    MSG aviso{desde, mensaje, w, l, static_cast<DWORD>(::GetMessageTime()), {}};
     ::GetCursorPos(&aviso.pt);
     ::SendMessageW(ventana_.get(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&aviso));
 }
 
 void Globos::Soltar() {
     ventana_.Poner(nullptr);
+    velo_ = nullptr;
     texto_.clear();
 }
 

@@ -22,10 +22,13 @@ class Globos {
 
   private:
     bool Crear();
+    void Anadir(HWND herramienta);
+    void PedirTexto(HWND herramienta);
     void PonTexto(Texto texto);
 
     Nucleo& nucleo_;
     Dueno<HWND, CierreVentana> ventana_;
+    HWND velo_ = nullptr; // takes the mouse for the surface's window here and there
     Texto texto_;
 };
 

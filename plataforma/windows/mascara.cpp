@@ -50,6 +50,8 @@ class RecogedorDeTramos {
 };
 
 DuenoRegion RegionDe(const std::vector<RECT>& tramos) {
+    if (tramos.empty())
+        return DuenoRegion(::CreateRectRgn(0, 0, 0, 0));
     std::vector<std::byte> memoria(sizeof(RGNDATAHEADER) + tramos.size() * sizeof(RECT));
     RGNDATAHEADER cabecera{};
     cabecera.dwSize = sizeof cabecera;
@@ -88,6 +90,23 @@ bool RecortarALoDibujado(ImagenDib& imagen, SIZE tamano, const Destino& destino)
     const DuenoRegion region = RegionDe(tramos);
     ::ExtSelectClipRgn(destino.dc, region.get(), RGN_AND);
     return true;
+}
+
+DuenoRegion RegionDibujada(const std::uint32_t* sobreNegro, const std::uint32_t* sobreBlanco,
+                           SIZE tamano, bool& mezclada) {
+    constexpr std::uint32_t Color = 0xFFFFFF;
+    mezclada = false;
+    RecogedorDeTramos recogedor;
+    std::vector<std::uint32_t> fila(static_cast<std::size_t>(tamano.cx));
+    for (int y = 0; y < tamano.cy; ++y) {
+        for (std::uint32_t& hay : fila) {
+            const std::uint32_t n = *sobreNegro++ & Color, b = *sobreBlanco++ & Color;
+            hay = n != 0 || b != Color;
+            mezclada = mezclada || (hay && n != b);
+        }
+        recogedor.Fila(fila.data(), tamano.cx, y, 0);
+    }
+    return RegionDe(recogedor.tramos());
 }
 
 } // namespace pincela::windows

@@ -1,6 +1,7 @@
 #include "plataforma/windows/nucleo.h"
 
 #include "plataforma/windows/campo_edicion.h"
+#include "plataforma/windows/silueta.h"
 
 #include <algorithm>
 
@@ -9,6 +10,8 @@ namespace pincela::windows {
 void Nucleo::VistaCambiada() {
     if (cerrando)
         return;
+    if (ventana && silueta)
+        silueta->Envejecer();
     if (ventana && !invalidada_) {
         invalidada_ = true;
         ::InvalidateRect(ventana, nullptr, FALSE);

@@ -12,6 +12,7 @@ namespace pincela::windows {
 
 class CampoEdicion;
 class Globos;
+class Silueta;
 
 /// Holds the object of the control for a scope.
 class Sosten {
@@ -57,6 +58,7 @@ class Nucleo {
     Escena escena;
     std::vector<CampoEdicion*> campos; // in the order they were made
     Globos* globos = nullptr;          // of the window, for whoever gets mouse messages
+    Silueta* silueta = nullptr;        // of the window
     bool conFoco = false;              // what the site was last told
     bool focoDicho = false;            // what the control was last told
     bool dibujandoPadre = false;       // the parent was asked for what is behind the window

@@ -16,8 +16,6 @@ namespace pincela::windows {
 
 namespace {
 
-constexpr wchar_t NombreDeClase[] = L"PincelaSuperficie";
-
 bool EsDeEntrada(UINT mensaje) {
     return (mensaje >= WM_MOUSEFIRST && mensaje <= WM_MBUTTONDBLCLK) ||
            (mensaje >= WM_KEYFIRST && mensaje <= WM_KEYLAST) || mensaje == WM_MOUSEACTIVATE ||
@@ -45,7 +43,7 @@ RECT LugarDeVentana(const RECT& pedido) {
     return {x, y, x + lado(pedido.left, pedido.right), y + lado(pedido.top, pedido.bottom)};
 }
 
-HWND VentanaSuperficie::Crear(HWND padre, const RECT& pedido) {
+HWND VentanaSuperficie::Crear(HWND padre, const RECT& pedido, const RECT* recorte) {
     static ClaseDeVentana clase(NombreDeClase, CS_DBLCLKS, &VentanaSuperficie::Procedimiento);
     clase.Asegurar();
     if (nucleo_.ventana)
@@ -61,12 +59,27 @@ HWND VentanaSuperficie::Crear(HWND padre, const RECT& pedido) {
         ModuloPropio(), this);
     if (!ventana || testigo.expired())
         return nullptr;
+    silueta_.PonRecorte(lugar, recorte);
+    silueta_.Ajustar();
+    if (testigo.expired())
+        return nullptr;
     const auto campos = nucleo_.campos;
     for (CampoEdicion* campo : campos)
         campo->CrearVentana();
     ::SetWindowPos(ventana, HWND_TOP, 0, 0, 0, 0,
                    SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     return testigo.expired() ? nullptr : nucleo_.ventana;
+}
+
+void VentanaSuperficie::Mover(const RECT& lugar, const RECT* recorte) {
+    const auto testigo = nucleo_.Testigo();
+    silueta_.PonRecorte(lugar, recorte);
+    // What is copied along with a window shows up before its region is in the new place.
+    const UINT copia = silueta_.Recortada() ? SWP_NOCOPYBITS : 0;
+    ::SetWindowPos(nucleo_.ventana, nullptr, lugar.left, lugar.top, lugar.right - lugar.left,
+                   lugar.bottom - lugar.top, SWP_NOZORDER | SWP_NOACTIVATE | copia);
+    if (!testigo.expired())
+        silueta_.Ajustar(); // also where only the clip is another
 }
 
 void VentanaSuperficie::Destruir() {
@@ -128,13 +141,11 @@ bool VentanaSuperficie::Procesar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resu
         resultado = 1; // painting covers everything
         return true;
     case WM_PAINT:
-        if (superficie_.Transparente())
-            vigia_.Vigilar(nucleo_.ventana);
-        else
-            vigia_.Soltar();
-        PintarVentana(nucleo_, superficie_);
-        nucleo_.Notificar([](ControlUsuario& control) { control.Paint(); });
+        Pintar();
         return true;
+    case WM_NCPAINT:
+        RepintarHijas();
+        return false;
     case WM_PRINT:
     case WM_PRINTCLIENT:
         ImprimirVentana(nucleo_, superficie_, reinterpret_cast<HDC>(w), l, mensaje == WM_PRINT);
@@ -146,6 +157,22 @@ bool VentanaSuperficie::Procesar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resu
         if (superficie_.Transparente())
             ::InvalidateRect(nucleo_.ventana, nullptr, FALSE);
         return false;
+    case WM_WINDOWPOSCHANGED:
+        CambioDeLugar(*reinterpret_cast<const WINDOWPOS*>(l));
+        return false;
+    case WM_ENABLE:
+        silueta_.SeguirVelo();
+        return false;
+    case WM_PARENTNOTIFY:
+        if (LOWORD(w) != WM_CREATE && LOWORD(w) != WM_DESTROY)
+            return false;
+        [[fallthrough]];
+    case CambioEncima:
+        if (superficie_.Transparente()) {
+            silueta_.Envejecer();
+            ::InvalidateRect(nucleo_.ventana, nullptr, FALSE);
+        }
+        return mensaje == CambioEncima;
     case WM_SETFOCUS:
         FocoRecibido();
         return true;
@@ -203,7 +230,7 @@ bool VentanaSuperficie::ProcesarEntrada(UINT mensaje, WPARAM w, LPARAM l, LRESUL
     case WM_CHAR:
         return Tecla(mensaje, w);
     case WM_MOUSEMOVE:
-        TemporizadorWindows::RatonEncima(nucleo_, nucleo_.ventana);
+        TemporizadorWindows::RatonEncima(nucleo_, Velo::BajoElRaton(nucleo_.ventana));
         [[fallthrough]];
     default:
         globos_.Mensaje(mensaje, w, l);
@@ -249,6 +276,47 @@ void VentanaSuperficie::CambioDeTamano(SIZE tamano) {
     nucleo_.Notificar([](ControlUsuario& control) { control.Resize(); });
 }
 
+void VentanaSuperficie::CambioDeLugar(const WINDOWPOS& cambio) {
+    constexpr UINT Quieta = SWP_NOMOVE | SWP_NOSIZE;
+    constexpr UINT Vista = SWP_SHOWWINDOW | SWP_HIDEWINDOW;
+    const auto testigo = nucleo_.Testigo();
+    const HWND ventana = nucleo_.ventana;
+    if ((cambio.flags & Quieta) != Quieta)
+        silueta_.Ajustar();
+    if (testigo.expired() || nucleo_.ventana != ventana)
+        return;
+    if ((cambio.flags & (Quieta | SWP_NOZORDER)) != (Quieta | SWP_NOZORDER) || cambio.flags & Vista)
+        silueta_.SeguirVelo();
+    if ((cambio.flags & Quieta) != Quieta || cambio.flags & Vista)
+        AvisarAQuienSostiene(ventana);
+}
+
+// Nothing behind a transparent surface is copied to the screen, except under what lets it through.
+void VentanaSuperficie::Pintar() {
+    const auto testigo = nucleo_.Testigo();
+    silueta_.AntesDePintar();
+    if (testigo.expired() || !nucleo_.ventana)
+        return;
+    const bool hay = PintarVentana(nucleo_, superficie_, silueta_);
+    if (testigo.expired())
+        return;
+    silueta_.DespuesDePintar();
+    if (hay && !testigo.expired())
+        nucleo_.Notificar([](ControlUsuario& control) { control.Paint(); });
+}
+
+// The frame is painted anew when somebody else painted over the window. A container that does not
+// clip its children has then painted over what stands in the window as well, and nobody tells that.
+void VentanaSuperficie::RepintarHijas() {
+    const HWND padre = ::GetAncestor(nucleo_.ventana, GA_PARENT);
+    if (::GetWindowLongW(padre, GWL_STYLE) & WS_CLIPCHILDREN)
+        return;
+    for (HWND hija = ::GetWindow(nucleo_.ventana, GW_CHILD); hija;
+         hija = ::GetWindow(hija, GW_HWNDNEXT))
+        ::RedrawWindow(hija, nullptr, nullptr,
+                       RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
 void VentanaSuperficie::FocoRecibido() {
     if (!FocoEntra(nucleo_) || nucleo_.sitio.EntradaCongelada())
         return;
@@ -269,7 +337,7 @@ void VentanaSuperficie::Perdida() {
     for (CampoEdicion* campo : nucleo_.campos)
         campo->SoltarVentana();
     globos_.Soltar();
-    vigia_.Soltar();
+    silueta_.Soltar();
     raton_.CapturaPerdida();
     nucleo_.ventana = nullptr;
     nucleo_.VistaDibujada();

@@ -3,8 +3,7 @@
 
 #include "plataforma/windows/globos.h"
 #include "plataforma/windows/raton.h"
-#include "plataforma/windows/superficie_windows.h"
-#include "plataforma/windows/vigia_padre.h"
+#include "plataforma/windows/silueta.h"
 
 namespace pincela::windows {
 
@@ -13,15 +12,23 @@ RECT LugarDeVentana(const RECT& pedido);
 
 class VentanaSuperficie {
   public:
+    static constexpr wchar_t NombreDeClase[] = L"PincelaSuperficie";
+    /// A surface that stands on this one covers other pixels now.
+    static constexpr UINT CambioEncima = WM_USER + 0x50;
+
     VentanaSuperficie(Nucleo& nucleo, SuperficieWindows& superficie)
-        : nucleo_(nucleo), superficie_(superficie), raton_(nucleo), globos_(nucleo) {
+        : nucleo_(nucleo), superficie_(superficie), raton_(nucleo), globos_(nucleo),
+          silueta_(nucleo, superficie) {
         nucleo_.globos = &globos_;
+        nucleo_.silueta = &silueta_;
     }
     ~VentanaSuperficie() { Destruir(); }
     VentanaSuperficie(const VentanaSuperficie&) = delete;
     VentanaSuperficie& operator=(const VentanaSuperficie&) = delete;
 
-    HWND Crear(HWND padre, const RECT& lugar);
+    /// `recorte`, in client pixels of the parent like `lugar`, limits what is seen; may be null.
+    HWND Crear(HWND padre, const RECT& lugar, const RECT* recorte);
+    void Mover(const RECT& lugar, const RECT* recorte);
     void Destruir();
 
     /// The window that the focus belongs in: the first edit field that can have it.
@@ -39,6 +46,9 @@ class VentanaSuperficie {
     bool Tecla(UINT mensaje, WPARAM w);
     bool PonPuntero(LPARAM l);
     void CambioDeTamano(SIZE tamano);
+    void CambioDeLugar(const WINDOWPOS& cambio);
+    void Pintar();
+    void RepintarHijas();
     void FocoRecibido();
     void Perdida();
 
@@ -46,7 +56,7 @@ class VentanaSuperficie {
     SuperficieWindows& superficie_;
     Raton raton_;
     Globos globos_;
-    VigiaDelPadre vigia_;
+    Silueta silueta_;
 };
 
 } // namespace pincela::windows

@@ -42,6 +42,52 @@ TEST_CASE("a click on the panel gives MouseDown, MouseUp and Click, and takes th
     CHECK(b.forma->Activo() == b.panel.get());
 }
 
+TEST_CASE("a transparent panel has the mouse where the form shows through it as well") {
+    BancoPanel b;
+    b.Poner(L"BackStyle", 0);
+    b.Poner(L"ToolTipText", L"Panel");
+    b.Poner(L"MousePointer", 2); // a cross
+    b.Esperar();
+    b.Olvidar();
+    b.Entrar(44, 26);
+    CHECK(GetCursor() == LoadCursorW(nullptr, IDC_CROSS));
+    b.Clic();
+    CHECK(b.Sucesos() == Hechos{"MouseDown 1 0 44 26", "MouseUp 1 0 44 26", "Click"});
+    CHECK(b.Ultimo("MouseMove") == "MouseMove 0 0 44 26");
+    CHECK(GetFocus() == b.Ventana());
+    // Of a disabled window, and of one that is gone, the mouse is the form's.
+    EnableWindow(b.Ventana(), FALSE);
+    b.Olvidar();
+    b.Clic();
+    CHECK(b.Sucesos() == Hechos{});
+    EnableWindow(b.Ventana(), TRUE);
+    b.panel->Mover({60, 60, 260, 180});
+    b.Esperar();
+    b.Olvidar();
+    b.Entrar(60, 30);
+    b.Clic();
+    CHECK(b.Veces("Click") == 1);
+}
+
+TEST_CASE("of two transparent panels the upper one has the mouse, and what is under the mouse") {
+    BancoPanel b;
+    b.Poner(L"BackStyle", 0);
+    const auto encima = b.Dentro(L"Encima", {20, 20, 120, 100}, L"Pincela.Area");
+    Poner(encima->Despacho(), L"BackStyle", 0);
+    const auto delEncima = encima->Conectar(
+        [&](Evento& evento) { b.hechos.push_back("Encima." + Describir(evento)); });
+    b.Esperar();
+    b.Olvidar();
+    b.Entrar(60, 60);
+    b.Clic();
+    CHECK(b.Ultimo("Encima.MouseDown") == "Encima.MouseDown 1 0 40 40");
+    CHECK(b.Veces("Encima.Click") == 1);
+    CHECK(b.Veces("Click") == 0);
+    b.Entrar(160, 60);
+    b.Clic();
+    CHECK(b.Veces("Click") == 1);
+}
+
 TEST_CASE("a click on the caption is told with the caption's coordinates") {
     BancoPanel b;
     b.Poner(L"Caption", L"XXXXXXXXXX");

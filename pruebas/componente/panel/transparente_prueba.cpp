@@ -1,4 +1,5 @@
 // A panel through which its container is seen.
+#include "pruebas/cada.h"
 #include "pruebas/componente/panel/banco.h"
 
 using namespace panel;
@@ -58,19 +59,56 @@ TEST_CASE("what changes behind a transparent panel is seen through it at once") 
     CHECK(b.Visible(Rojo) == 100 * b.H);
 }
 
-TEST_CASE("an opaque panel is not painted because its container is") {
+TEST_CASE("a panel is not painted because its container is, opaque or not") {
     BancoTransparente b;
-    b.Poner(L"BackStyle", 1);
-    b.Ver();
+    const long estilo = pincela::pruebas::Cada({0L, 1L});
+    CAPTURE(estilo);
+    b.Poner(L"EstilosBord", 1);
+    b.Poner(L"BackStyle", estilo);
     b.Esperar(20);
     b.Olvidar();
     b.CambiarFondo(Rojo);
     CHECK(b.Veces("Paint") == 0);
-    b.Poner(L"BackStyle", 0);
-    b.Ver();
-    b.Olvidar();
-    b.CambiarFondo(Azul);
-    CHECK(b.Veces("Paint") == 1);
+    CHECK((b.Visible(Rojo) > 0) == (estilo == 0));
+}
+
+TEST_CASE("a caption on a transparent panel does not keep the background it was painted on") {
+    BancoTransparente b;
+    b.Color(L"ColorLetra", Blanco);
+    b.Poner(L"Caption", L"HHHH");
+    const int letras = b.Visible(Blanco);
+    REQUIRE(letras > 20);
+    b.CambiarFondo(Rojo);
+    CHECK(b.Visible(Blanco) == letras);
+    CHECK(b.Visible(Amarillo) == 0);
+    b.Poner(L"Caption", L"");
+    b.Esperar(20);
+    CHECK(b.Visible(Rojo) == b.W * b.H);
+}
+
+TEST_CASE("what stands on a transparent panel is seen where it moves to, and others' windows too") {
+    BancoTransparente b;
+    const auto boton = b.Dentro(L"Dentro", {10, 10, 50, 30});
+    Poner(boton->Despacho(), L"EstilosBord", 0);
+    Poner(boton->Despacho(), L"ColorFondo", static_cast<long>(Rojo));
+    b.Esperar(20);
+    CHECK(b.Visible(Rojo) == 40 * 20);
+    boton->Mover({60, 40, 140, 100});
+    b.Esperar(20);
+    CHECK(b.Visible(Rojo) == 80 * 60);
+    CHECK(b.Visible(Amarillo) == b.W * b.H - 80 * 60);
+    const HWND ajena = CreateWindowExW(0, L"STATIC", L"", WS_CHILD | WS_VISIBLE | SS_BLACKRECT, 0,
+                                       0, 20, 20, b.Ventana(), nullptr, nullptr, nullptr);
+    SetWindowPos(ajena, HWND_TOP, 150, 10, 30, 30, SWP_NOACTIVATE);
+    b.Esperar(20);
+    const COLORREF negro = GetSysColor(COLOR_3DDKSHADOW);
+    CHECK(b.Visible(negro) == 30 * 30);
+    MoveWindow(ajena, 10, 80, 50, 30, TRUE);
+    b.Esperar(20);
+    CHECK(b.Visible(negro) == 50 * 30);
+    DestroyWindow(ajena);
+    b.Esperar(20);
+    CHECK(b.Visible(Amarillo) == b.W * b.H - 80 * 60);
 }
 
 TEST_CASE("a transparent panel that moves shows what it covers now") {
