@@ -194,9 +194,17 @@ Variante ValorTardioDe(const VARIANT& v) {
 }
 
 bool EsOmitido(const VARIANT& v) {
-    const VARIANT* directo =
-        V_VT(&v) == (VT_BYREF | VT_VARIANT) && V_VARIANTREF(&v) ? V_VARIANTREF(&v) : &v;
-    return V_VT(directo) == VT_ERROR && V_ERROR(directo) == DISP_E_PARAMNOTFOUND;
+    switch (V_VT(&v)) {
+    case VT_ERROR:
+        return V_ERROR(&v) == DISP_E_PARAMNOTFOUND;
+    case VT_BYREF | VT_ERROR:
+        return V_ERRORREF(&v) && *V_ERRORREF(&v) == DISP_E_PARAMNOTFOUND;
+    case VT_BYREF | VT_VARIANT:
+        return V_VARIANTREF(&v) && V_VT(V_VARIANTREF(&v)) != (VT_BYREF | VT_VARIANT) &&
+               EsOmitido(*V_VARIANTREF(&v));
+    default:
+        return false;
+    }
 }
 
 Variante DesdeVariant(const VARIANT& v) {

@@ -111,6 +111,10 @@ TEST_CASE("A required argument that is passed as missing is not optional") {
     CHECK(b.Invocar(InviertoColor, {Variante::Referencia(static_cast<VARIANT&>(variable))},
                     &equivocado) == DISP_E_PARAMNOTOPTIONAL);
     CHECK(equivocado == 0);
+    Variante deError;
+    deError.vt = VT_BYREF | VT_ERROR;
+    deError.pscode = &variable.scode;
+    CHECK(b.Invocar(InviertoColor, {deError}) == DISP_E_PARAMNOTOPTIONAL);
     equivocado = 99;
     const Variante uno(1);
     CHECK(b.Invocar(DarForma, {falta, uno, uno, uno, uno}, &equivocado) == DISP_E_PARAMNOTOPTIONAL);

@@ -6,7 +6,6 @@
 #include <doctest/doctest.h>
 
 #include <cmath>
-#include <map>
 #include <set>
 
 using namespace publicado;
@@ -212,12 +211,10 @@ std::vector<Variante> Formas(Variante& valor) {
     return formas;
 }
 
-} // namespace
-
-TEST_CASE("Every property takes every kind of value as DispInvoke would have it") {
+/// Calls `f(pareja, asignable)` for each property that can be assigned, of every control.
+template <class F>
+void ParaCadaAsignable(F f) {
     const SesionOle ole;
-    std::map<std::string, int> razones;
-    int comparados = 0;
     for (const Clase& clase : Clases) {
         if (clase.genero != Genero::Control)
             continue;
@@ -225,47 +222,52 @@ TEST_CASE("Every property takes every kind of value as DispInvoke would have it"
         Pareja pareja(clase);
         for (const Asignable& a : Asignables(pareja.info.get())) {
             INFO(anfitrion::Estrechar(a.nombre));
-            std::set<VARTYPE> vistos;
-            for (Caso& caso : CasosTardios()) {
-                INFO(caso.nombre);
-                const bool nuevo = vistos.insert(caso.valor.vt).second;
-                for (const Variante& forma :
-                     nuevo ? Formas(caso.valor) : std::vector<Variante>{caso.valor}) {
-                    CAPTURE(forma.vt);
-                    const Respuesta propia = pareja.Propia(a, forma);
-                    const Respuesta ajena = pareja.Ajena(a, forma);
-                    ++comparados;
-                    if (Coinciden(propia, ajena))
-                        continue;
-                    const char* razon = Razon(a, caso.valor, forma.vt, propia, ajena);
-                    CHECK_MESSAGE(razon, propia.estado, " ", propia.detras, " ",
-                                  Escrito(propia.leido), " where DispInvoke gives ", ajena.estado,
-                                  " ", ajena.detras, " ", Escrito(ajena.leido));
-                    ++razones[razon ? razon : "?"];
-                    pareja.Igualar(a);
-                }
-            }
+            f(pareja, a);
         }
     }
+}
+
+} // namespace
+
+TEST_CASE("Every property takes every kind of value as DispInvoke would have it") {
+    std::set<std::string> razones;
+    int comparados = 0;
+    const auto comparar = [&](Pareja& pareja, const Asignable& a, const Caso& caso,
+                              const Variante& forma) {
+        CAPTURE(forma.vt);
+        const Respuesta propia = pareja.Propia(a, forma);
+        const Respuesta ajena = pareja.Ajena(a, forma);
+        ++comparados;
+        if (Coinciden(propia, ajena))
+            return;
+        const char* razon = Razon(a, caso.valor, forma.vt, propia, ajena);
+        CHECK_MESSAGE(razon, propia.estado, " ", propia.detras, " ", Escrito(propia.leido),
+                      " where DispInvoke gives ", ajena.estado, " ", ajena.detras, " ",
+                      Escrito(ajena.leido));
+        razones.insert(razon ? razon : "?");
+        pareja.Igualar(a);
+    };
+    ParaCadaAsignable([&](Pareja& pareja, const Asignable& a) {
+        std::set<VARTYPE> vistos;
+        for (Caso& caso : CasosTardios()) {
+            INFO(caso.nombre);
+            const bool nuevo = vistos.insert(caso.valor.vt).second;
+            for (const Variante& forma :
+                 nuevo ? Formas(caso.valor) : std::vector<Variante>{caso.valor})
+                comparar(pareja, a, caso, forma);
+        }
+    });
     CHECK(comparados > 20000);
     // A reason that nothing needs any more has to go.
     CHECK(razones.size() == 5);
 }
 
 TEST_CASE("Every property is read as DispInvoke reads it") {
-    const SesionOle ole;
-    for (const Clase& clase : Clases) {
-        if (clase.genero != Genero::Control)
-            continue;
-        INFO(anfitrion::Estrechar(clase.nombre));
-        Pareja pareja(clase);
-        for (const Asignable& a : Asignables(pareja.info.get())) {
-            INFO(anfitrion::Estrechar(a.nombre));
-            Variante propio, ajeno;
-            CHECK(pareja.LeidoPorAmbos(a, propio, ajeno) == S_OK);
-            CHECK(Escrito(propio) == Escrito(ajeno));
-            // Scripts can't reckon with an unsigned number.
-            CHECK(propio.vt == (a.esColor() ? VARTYPE{VT_I4} : ajeno.vt));
-        }
-    }
+    ParaCadaAsignable([](Pareja& pareja, const Asignable& a) {
+        Variante propio, ajeno;
+        CHECK(pareja.LeidoPorAmbos(a, propio, ajeno) == S_OK);
+        CHECK(Escrito(propio) == Escrito(ajeno));
+        // Scripts can't reckon with an unsigned number.
+        CHECK(propio.vt == (a.esColor() ? VARTYPE{VT_I4} : ajeno.vt));
+    });
 }
