@@ -80,13 +80,14 @@ LSTATUS Vista::QuitarVacia(const std::wstring& ruta, bool soloNuestra) const {
     DWORD subclaves = 0, valores = 0;
     {
         ClaveAbierta clave;
-        wchar_t clase[std::size(ClaseDeClave)] = {};
+        wchar_t clase[2 * std::size(ClaseDeClave)] = {}; // some systems count a zero at its end
         DWORD largo = std::size(clase);
         if (RegOpenKeyExW(raiz_, ruta.c_str(), 0, KEY_READ | ancho_, clave.Recibir()) !=
             ERROR_SUCCESS)
             return ERROR_SUCCESS;
         // The class of somebody else's key may be too long to be read, and is not ours then.
-        if (RegQueryInfoKeyW(clave.get(), clase, &largo, nullptr, &subclaves, nullptr, nullptr,
+        if (RegQueryInfoKeyW(clave.get(), soloNuestra ? clase : nullptr,
+                             soloNuestra ? &largo : nullptr, nullptr, &subclaves, nullptr, nullptr,
                              &valores, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS ||
             (soloNuestra && wcscmp(clase, ClaseDeClave) != 0))
             return ERROR_SUCCESS;
