@@ -50,7 +50,7 @@ Variante BolsaCom::ReadProperty(VistaTexto clave, const Variante& porDefecto) {
     const Texto nombre(clave);
     VarianteCom valor;
     const HRESULT estado =
-        bolsa_->Read(reinterpret_cast<LPCOLESTR>(nombre.c_str()), &valor, errores_);
+        bolsa_->Read(reinterpret_cast<LPCOLESTR>(nombre.c_str()), &valor, errores_.get());
     // The one answer that means "no such key"; containers that know only failure give the other.
     if (estado == E_INVALIDARG || estado == E_FAIL)
         return porDefecto;

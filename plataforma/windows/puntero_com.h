@@ -43,7 +43,8 @@ class PunteroCom {
     static PunteroCom De(U* objeto, REFIID iid = __uuidof(T)) {
         PunteroCom r;
         if (objeto)
-            objeto->QueryInterface(iid, reinterpret_cast<void**>(&r.p_));
+            r.Pedir(
+                [&](T** p) { return objeto->QueryInterface(iid, reinterpret_cast<void**>(p)); });
         return r;
     }
 
@@ -55,7 +56,24 @@ class PunteroCom {
     T* operator->() const { return p_; }
     explicit operator bool() const { return p_ != nullptr; }
 
-    /// For calls that return a reference through a parameter; what was held is released first.
+    /// Asks somebody else's object for a reference: `llamada(T**)` answers a status. Success
+    /// without an object is E_UNEXPECTED, and what stands beside a failure is nobody's reference.
+    /// What was held is released first; what the call does to this pointer meanwhile is lost.
+    template <class F>
+    HRESULT Pedir(F&& llamada) {
+        Soltar();
+        T* p = nullptr;
+        const HRESULT estado = llamada(&p);
+        if (FAILED(estado))
+            return estado;
+        if (!p)
+            return E_UNEXPECTED;
+        *this = Adoptar(p);
+        return estado;
+    }
+
+    /// For the platform's own functions, which can be taken at their word; what was held is
+    /// released first. Everybody else is asked by Pedir.
     T** Recibir() {
         Soltar();
         return &p_;
@@ -65,5 +83,12 @@ class PunteroCom {
   private:
     T* p_ = nullptr;
 };
+
+/// What tells one object from another. One that does not tell is itself alone.
+template <class T>
+PunteroCom<IUnknown> IdentidadDe(T* objeto) {
+    auto identidad = PunteroCom<IUnknown>::De(objeto);
+    return identidad ? identidad : PunteroCom<IUnknown>(objeto);
+}
 
 } // namespace pincela::windows
