@@ -1,7 +1,7 @@
 # The front of the build. `make demo` shows the component; `make test` proves it.
 
 .DEFAULT_GOAL := ocx
-.PHONY: ayuda setup setup-base setup-32 ocx ocx64 ocx32 demo test bench fuzz soak dist docs format tidy clean
+.PHONY: ayuda setup setup-base setup-32 ocx ocx64 ocx32 demo test bench fuzz soak attack dist docs format tidy clean
 
 SHELL := /bin/bash
 H := herramientas
@@ -18,6 +18,7 @@ ayuda:
 	  'make bench   the measurements' \
 	  'make fuzz    a minute of made-up input for each reader of text and bytes' \
 	  'make soak    half an hour of use, looking for what is left behind' \
+	  'make attack  50,000 cases of a container that does what no container should' \
 	  'make dist    build/dist: the zip and the setup program of both widths' \
 	  'make docs    docs/manual: the reference, out of the tables of members' \
 	  'make tidy, make format, make clean'
@@ -49,6 +50,9 @@ fuzz: setup-base
 
 soak: setup
 	@$H/remojar
+
+attack: setup
+	@$H/atacar
 
 bench: setup ocx
 	@$H/construir win64 medidas

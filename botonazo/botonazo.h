@@ -148,7 +148,7 @@ class Botonazo final : public ControlUsuario {
     // Drawing (pintura.cpp, borde.cpp, progresivo.cpp).
     void ActualizarEstado(bool Presionado);
     void PintarBoton(Imagen imagen, const Texto& Colores, bool Sobre);
-    void DibujarBoton(const Imagen& imagen, const Texto& Colores, bool Sobre);
+    void DibujarBoton(Imagen imagen, const Texto& Colores, bool Sobre);
     void PintarCara(Lienzo& destino, const Imagen& imagen, const Texto& Colores, bool Sobre);
     void PintarImagen(Lienzo& destino, const Imagen& imagen, bool Sobre);
     std::uint8_t MargenImagen(bool Sobre) const;

@@ -17,7 +17,8 @@ void Botonazo::ActualizarEstado(bool Presionado) {
     PintarBoton(imagen, encima ? m_ColorDegradeS : m_ColorDegradeN, Presionado);
 }
 
-// Taken by value: showing the drawing can call out, and a handler may change the stored picture.
+// Taken by value, here and below: showing the drawing can call out, and a handler may change the
+// stored picture.
 void Botonazo::PintarBoton(Imagen imagen, const Texto& Colores, bool Sobre) {
     if (m_CambioProgre) {
         FundirBoton(imagen, Colores, Sobre);
@@ -29,7 +30,7 @@ void Botonazo::PintarBoton(Imagen imagen, const Texto& Colores, bool Sobre) {
 }
 
 // Leaves the surface with the look of a button that can be used.
-void Botonazo::DibujarBoton(const Imagen& imagen, const Texto& Colores, bool Sobre) {
+void Botonazo::DibujarBoton(Imagen imagen, const Texto& Colores, bool Sobre) {
     // What a fade in course still has to copy is older than this.
     if (TimProg->Enabled())
         DetenerProgresivo();

@@ -28,25 +28,6 @@ class VarianteCom : public VARIANT {
     }
 };
 
-class Bstr {
-  public:
-    Bstr() = default;
-    explicit Bstr(const wchar_t* texto) : b_(SysAllocString(texto)) {}
-    Bstr(const Bstr&) = delete;
-    Bstr& operator=(const Bstr&) = delete;
-    ~Bstr() { SysFreeString(b_); }
-    BSTR get() const { return b_; }
-    BSTR* Recibir() {
-        SysFreeString(b_);
-        b_ = nullptr;
-        return &b_;
-    }
-    BSTR Ceder() { return std::exchange(b_, nullptr); }
-
-  private:
-    BSTR b_ = nullptr;
-};
-
 /// Text for a caller that frees it with CoTaskMemFree; null when there is no memory.
 inline LPOLESTR DuplicarTexto(const wchar_t* texto) {
     const std::size_t bytes = (std::wcslen(texto) + 1) * sizeof(wchar_t);

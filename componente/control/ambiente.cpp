@@ -71,7 +71,7 @@ Fuente ObjetoControl::AmbientFont() {
         // Each control has a font of its own: changing one must not change its neighbours.
         const Ptr<IFont> ajena = Ptr<IFont>::De(V_DISPATCH(&valor));
         Ptr<IFont> propia;
-        if (ajena && SUCCEEDED(ajena->Clone(propia.Recibir())))
+        if (ajena && SUCCEEDED(propia.Pedir([&](IFont** f) { return ajena->Clone(f); })))
             fuente = windows::EnvolverFuente(propia.get());
     }
     if (!fuente)

@@ -49,11 +49,8 @@ Variante DesdeVariantGuardado(const VARIANT& v, const Variante& porDefecto) {
 Variante BolsaCom::ReadProperty(VistaTexto clave, const Variante& porDefecto) {
     const Texto nombre(clave);
     VarianteCom valor;
-    HRESULT estado = E_FAIL;
-    {
-        const windows::AritmeticaAjena ajena;
-        estado = bolsa_->Read(reinterpret_cast<LPCOLESTR>(nombre.c_str()), &valor, errores_);
-    }
+    const HRESULT estado =
+        bolsa_->Read(reinterpret_cast<LPCOLESTR>(nombre.c_str()), &valor, errores_.get());
     // The one answer that means "no such key"; containers that know only failure give the other.
     if (estado == E_INVALIDARG || estado == E_FAIL)
         return porDefecto;
@@ -67,7 +64,6 @@ void BolsaCom::WriteProperty(VistaTexto clave, const Variante& valor, const Vari
     const Texto nombre(clave);
     VarianteCom v;
     HaciaVariant(valor, &v);
-    const windows::AritmeticaAjena ajena;
     Exigir(bolsa_->Write(reinterpret_cast<LPCOLESTR>(nombre.c_str()), &v));
 }
 

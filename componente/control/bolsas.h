@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/guardado.h"
+#include "componente/com.h"
 #include "plataforma/bolsa.h"
 
 #include <ocidl.h>
@@ -11,7 +12,7 @@
 
 namespace pincela::componente {
 
-/// The container's bag. Not counted: used within one call.
+/// The container's bag, held within one call.
 class BolsaCom final : public BolsaPropiedades {
   public:
     /// With `todas` what equals its default is written too.
@@ -23,8 +24,8 @@ class BolsaCom final : public BolsaPropiedades {
                        const Variante& porDefecto) override;
 
   private:
-    IPropertyBag* bolsa_;
-    IErrorLog* errores_;
+    Ptr<IPropertyBag> bolsa_;
+    Ptr<IErrorLog> errores_;
     bool todas_;
 };
 

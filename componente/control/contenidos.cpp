@@ -21,13 +21,13 @@ using Objetos = std::vector<Ptr<IUnknown>>;
 
 Objetos Recorrer(const Ptr<IEnumUnknown>& lista) {
     Objetos objetos;
-    for (int i = 0; lista && i < MaximoDeControles; ++i) {
+    for (int i = 0; i < MaximoDeControles; ++i) {
         Ptr<IUnknown> uno;
         ULONG dados = 0;
-        if (lista->Next(1, uno.Recibir(), &dados) != S_OK || dados != 1)
+        if (uno.Pedir([&](IUnknown** p) { return lista->Next(1, p, &dados); }) != S_OK ||
+            dados != 1)
             break;
-        if (uno)
-            objetos.push_back(std::move(uno));
+        objetos.push_back(std::move(uno));
     }
     return objetos;
 }
@@ -35,7 +35,7 @@ Objetos Recorrer(const Ptr<IEnumUnknown>& lista) {
 Ptr<IOleClientSite> SitioDe(const Ptr<IUnknown>& objeto) {
     Ptr<IOleClientSite> sitio;
     if (const auto ole = Ptr<IOleObject>::De(objeto.get()))
-        ole->GetClientSite(sitio.Recibir());
+        sitio.Pedir([&](IOleClientSite** p) { return ole->GetClientSite(p); });
     return sitio;
 }
 
@@ -72,7 +72,8 @@ class ContenidoTardio final : public ControlContenido {
   public:
     ContenidoTardio(const Ptr<IUnknown>& objeto, int ppp) : ppp_(ppp) {
         sitio_ = Ptr<IOleControlSite>::De(SitioDe(objeto).get());
-        if (!sitio_ || FAILED(sitio_->GetExtendedControl(despacho_.Recibir())) || !despacho_)
+        if (!sitio_ ||
+            FAILED(despacho_.Pedir([&](IDispatch** p) { return sitio_->GetExtendedControl(p); })))
             despacho_ = Ptr<IDispatch>::De(objeto.get());
     }
 
@@ -122,8 +123,9 @@ class ContenidoTardio final : public ControlContenido {
 bool PorElSitio(const Ptr<IOleClientSite>& sitio, Objetos& objetos) {
     Ptr<IEnumUnknown> lista;
     const auto control = Ptr<IVBGetControl>::De(sitio.get(), IidGetControl);
-    if (!control || FAILED(control->EnumControls(Cuales, ControlesDentro, lista.Recibir())) ||
-        !lista)
+    if (!control || FAILED(lista.Pedir([&](IEnumUnknown** p) {
+            return control->EnumControls(Cuales, ControlesDentro, p);
+        })))
         return false;
     objetos = Recorrer(lista);
     return true;
@@ -132,8 +134,9 @@ bool PorElSitio(const Ptr<IOleClientSite>& sitio, Objetos& objetos) {
 Objetos PorElContenedor(const Ptr<IOleClientSite>& sitio, IUnknown* yo, HWND marco) {
     Ptr<IOleContainer> contenedor;
     Ptr<IEnumUnknown> lista;
-    if (!marco || FAILED(sitio->GetContainer(contenedor.Recibir())) || !contenedor ||
-        FAILED(contenedor->EnumObjects(Cuales, lista.Recibir())))
+    if (!marco ||
+        FAILED(contenedor.Pedir([&](IOleContainer** p) { return sitio->GetContainer(p); })) ||
+        FAILED(lista.Pedir([&](IEnumUnknown** p) { return contenedor->EnumObjects(Cuales, p); })))
         return {};
     std::vector<Lugar> todos;
     for (Ptr<IUnknown>& objeto : Recorrer(lista))

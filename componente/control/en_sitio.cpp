@@ -77,7 +77,7 @@ HRESULT ObjetoControl::EntrarEnSitio(HWND padre, const RECT* lugar) {
         enSitio_.Soltar();
         return admitido;
     }
-    const HRESULT hecha = entorno_.Ventana() ? S_OK : HacerVentana(*sitio.get(), padre, lugar);
+    const HRESULT hecha = entorno_.Ventana() ? S_OK : HacerVentana(sitio, padre, lugar);
     if (FAILED(hecha)) {
         OlvidarSitioEnSitio();
         return hecha;
@@ -90,9 +90,10 @@ HRESULT ObjetoControl::EntrarEnSitio(HWND padre, const RECT* lugar) {
     return S_OK;
 }
 
-HRESULT ObjetoControl::HacerVentana(IOleInPlaceSite& sitio, HWND padre, const RECT* lugar) {
+HRESULT ObjetoControl::HacerVentana(const Ptr<IOleInPlaceSite>& sitio, HWND padre,
+                                    const RECT* lugar) {
     HWND ventanaPadre = nullptr;
-    const HRESULT conVentana = sitio.GetWindow(&ventanaPadre);
+    const HRESULT conVentana = sitio->GetWindow(&ventanaPadre);
     if (Rehusa(conVentana))
         return conVentana;
     if (FAILED(conVentana) || !ventanaPadre)
@@ -103,7 +104,7 @@ HRESULT ObjetoControl::HacerVentana(IOleInPlaceSite& sitio, HWND padre, const RE
     OLEINPLACEFRAMEINFO info{};
     info.cb = sizeof info;
     const HRESULT conContexto =
-        sitio.GetWindowContext(marco.Recibir(), documento.Recibir(), &pedida, &recorte, &info);
+        sitio->GetWindowContext(marco.Recibir(), documento.Recibir(), &pedida, &recorte, &info);
     if (FAILED(conContexto)) { // what a failed call leaves behind belongs to nobody
         marco.Ceder();
         documento.Ceder();

@@ -2,6 +2,7 @@
 
 #include "common/errores.h"
 #include "componente/com.h"
+#include "componente/control/flujo_ajeno.h"
 #include "componente/errores_com.h"
 #include "plataforma/windows/objetos_windows.h"
 
@@ -186,9 +187,8 @@ Bytes GuardarPorSiMisma(IPersistStream* persistente) {
     ULARGE_INTEGER fin{};
     Exigir(flujo->Seek({}, STREAM_SEEK_CUR, &fin));
     Exigir(flujo->Seek({}, STREAM_SEEK_SET, nullptr));
-    Bytes bytes(static_cast<std::size_t>(fin.QuadPart));
-    ULONG leidos = 0;
-    Exigir(flujo->Read(bytes.data(), static_cast<ULONG>(bytes.size()), &leidos));
+    Bytes bytes;
+    FlujoAjeno(flujo.get()).Leer(fin.QuadPart, bytes);
     return bytes;
 }
 

@@ -24,6 +24,7 @@
 
 namespace pincela::componente {
 
+class FlujoAjeno;
 class ObjetoControl;
 
 /// Makes the core of a class of control and connects its events to `objeto`.
@@ -231,15 +232,15 @@ class ObjetoControl final : public IOleObject,
     void Preparar(); // makes a control that nobody initialised behave as newly placed
     void Iniciar();
     void Restaurar(BolsaPropiedades& bolsa);
-    void CargarBytes(IStream& flujo);
-    void GuardarBytes(IStream& flujo);
+    void CargarBytes(FlujoAjeno flujo);
+    void GuardarBytes(FlujoAjeno flujo);
     void TerminarCarga();
 
     // In place: see en_sitio.cpp.
     HRESULT MostrarPaginas(HWND padre);
     HRESULT Activar(bool conFoco, HWND padre, const RECT* lugar);
     HRESULT EntrarEnSitio(HWND padre, const RECT* lugar);
-    HRESULT HacerVentana(IOleInPlaceSite& sitio, HWND padre, const RECT* lugar);
+    HRESULT HacerVentana(const Ptr<IOleInPlaceSite>& sitio, HWND padre, const RECT* lugar);
     HRESULT ActivarInterfaz();
     void AvisarVentanasDelMarco(IOleInPlaceActiveObject* activo);
     void Mover(const RECT& lugar, const RECT* recorte);

@@ -43,14 +43,17 @@ HRESULT ObjetoControl::SetClientSite(IOleClientSite* sitio) {
     return Guardar([&] {
         if (!sitio && activoEnSitio_)
             InPlaceDeactivate(); // some containers take the site away before they close
-        sitioDeControl_.Soltar();
-        ambiente_.Soltar();
-        marcoSimple_.Soltar();
-        sitio_ = Ptr<IOleClientSite>(sitio);
-        sitioDeControl_ = Ptr<IOleControlSite>::De(sitio);
-        ambiente_ = Ptr<IDispatch>::De(sitio);
-        if (Datos().rasgosOle & OLEMISC_SIMPLEFRAME)
-            marcoSimple_ = Ptr<ISimpleFrameSite>::De(sitio);
+        // Asked first and taken over afterwards, all together: each question may come back here.
+        const Ptr<IOleClientSite> nuevo(sitio);
+        auto deControl = Ptr<IOleControlSite>::De(sitio);
+        auto ambiente = Ptr<IDispatch>::De(sitio);
+        auto marcoSimple = Datos().rasgosOle & OLEMISC_SIMPLEFRAME
+                               ? Ptr<ISimpleFrameSite>::De(sitio)
+                               : Ptr<ISimpleFrameSite>();
+        sitio_ = nuevo;
+        sitioDeControl_ = std::move(deControl);
+        ambiente_ = std::move(ambiente);
+        marcoSimple_ = std::move(marcoSimple);
         OlvidarAmbiente();
         return S_OK;
     });

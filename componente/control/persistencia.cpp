@@ -1,8 +1,7 @@
 // Life of a control's properties: new, restored, saved.
 #include "componente/control/bolsas.h"
+#include "componente/control/flujo_ajeno.h"
 #include "componente/control/objeto_control.h"
-
-#include <algorithm>
 
 namespace pincela::componente {
 
@@ -22,23 +21,6 @@ HRESULT EstadoDe(Lectura lectura) {
         break;
     }
     return STG_E_DOCFILECORRUPT;
-}
-
-/// Appends exactly `cuantos` bytes. In pieces, so that a length that lies costs no memory.
-void LeerBytes(IStream& flujo, std::size_t cuantos, Bytes& bytes) {
-    constexpr std::size_t trozo = 64 * 1024;
-    const windows::AritmeticaAjena ajena;
-    while (cuantos > 0) {
-        const std::size_t pedidos = std::min(cuantos, trozo);
-        const std::size_t antes = bytes.size();
-        bytes.resize(antes + pedidos);
-        ULONG leidos = 0;
-        Exigir(flujo.Read(bytes.data() + antes, static_cast<ULONG>(pedidos), &leidos));
-        if (leidos == 0)
-            throw FalloCom{STG_E_DOCFILECORRUPT};
-        bytes.resize(antes + leidos);
-        cuantos -= leidos;
-    }
 }
 
 } // namespace
@@ -98,12 +80,12 @@ void ObjetoControl::Restaurar(BolsaPropiedades& bolsa) {
     AvisarVista();
 }
 
-void ObjetoControl::CargarBytes(IStream& flujo) {
+void ObjetoControl::CargarBytes(FlujoAjeno flujo) {
     Bytes bytes;
-    LeerBytes(flujo, LargoDeCabecera, bytes);
+    flujo.Leer(LargoDeCabecera, bytes);
     std::uint32_t largo = 0;
     Exigir(EstadoDe(LeerCabecera(bytes, largo)));
-    LeerBytes(flujo, largo, bytes);
+    flujo.Leer(largo, bytes);
     ControlGuardado guardado;
     Exigir(EstadoDe(LeerGuardado(bytes, guardado)));
     BolsaMemoria bolsa(guardado.propiedades);
@@ -123,16 +105,11 @@ void ObjetoControl::CargarBytes(IStream& flujo) {
     }
 }
 
-void ObjetoControl::GuardarBytes(IStream& flujo) {
+void ObjetoControl::GuardarBytes(FlujoAjeno flujo) {
     Preparar();
     BolsaMemoria bolsa;
     nucleo_->WriteProperties(bolsa);
-    const Bytes bytes = EscribirGuardado({extension_.cx, extension_.cy, bolsa.Guardar()});
-    ULONG escritos = 0;
-    const windows::AritmeticaAjena ajena;
-    Exigir(flujo.Write(bytes.data(), static_cast<ULONG>(bytes.size()), &escritos));
-    if (escritos != bytes.size())
-        throw FalloCom{STG_E_MEDIUMFULL};
+    flujo.Escribir(EscribirGuardado({extension_.cx, extension_.cy, bolsa.Guardar()}));
 }
 
 HRESULT ObjetoControl::InitNew() {
@@ -146,7 +123,7 @@ HRESULT ObjetoControl::Load(IStream* flujo) {
     if (!flujo)
         return E_POINTER;
     return Guardar([&] {
-        CargarBytes(*flujo);
+        CargarBytes(FlujoAjeno(flujo));
         return S_OK;
     });
 }
@@ -155,7 +132,7 @@ HRESULT ObjetoControl::Save(IStream* flujo, BOOL limpiar) {
     if (!flujo)
         return E_POINTER;
     return Guardar([&] {
-        GuardarBytes(*flujo);
+        GuardarBytes(FlujoAjeno(flujo));
         if (limpiar)
             sucio_ = false;
         return S_OK;
@@ -169,7 +146,7 @@ HRESULT ObjetoControl::GetSizeMax(ULARGE_INTEGER* tamanio) {
     return Guardar([&] {
         Ptr<IStream> flujo;
         Exigir(CreateStreamOnHGlobal(nullptr, TRUE, flujo.Recibir()));
-        GuardarBytes(*flujo.get());
+        GuardarBytes(FlujoAjeno(flujo.get()));
         return flujo->Seek({}, STREAM_SEEK_CUR, tamanio);
     });
 }
@@ -183,9 +160,11 @@ HRESULT ObjetoControl::Load(IStorage* almacen) {
         return E_POINTER;
     return Guardar([&] {
         Ptr<IStream> flujo;
-        Exigir(almacen->OpenStream(NombreDelFlujo, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0,
-                                   flujo.Recibir()));
-        CargarBytes(*flujo.get());
+        Exigir(flujo.Pedir([&](IStream** abierto) {
+            return almacen->OpenStream(NombreDelFlujo, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0,
+                                       abierto);
+        }));
+        CargarBytes(FlujoAjeno(flujo.get()));
         return S_OK;
     });
 }
@@ -195,10 +174,11 @@ HRESULT ObjetoControl::Save(IStorage* almacen, BOOL) {
         return E_POINTER;
     return Guardar([&] {
         Ptr<IStream> flujo;
-        Exigir(almacen->CreateStream(NombreDelFlujo,
-                                     STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0, 0,
-                                     flujo.Recibir()));
-        GuardarBytes(*flujo.get());
+        Exigir(flujo.Pedir([&](IStream** creado) {
+            return almacen->CreateStream(
+                NombreDelFlujo, STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0, 0, creado);
+        }));
+        GuardarBytes(FlujoAjeno(flujo.get()));
         return S_OK;
     });
 }

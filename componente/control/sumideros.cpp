@@ -39,12 +39,11 @@ HRESULT PuntoDeConexion::Advise(IUnknown* sumidero, DWORD* galleta) {
     *galleta = 0;
     if (!sumidero)
         return E_POINTER;
-    Ptr<IUnknown> propio;
+    auto propio = Ptr<IUnknown>::De(sumidero, interfaz_);
     // Some containers answer only to the event interface, others only to the general one.
-    if (FAILED(sumidero->QueryInterface(interfaz_, propio.RecibirVacio())) &&
-        FAILED(sumidero->QueryInterface(IID_IDispatch, propio.RecibirVacio())))
-        return CONNECT_E_CANNOTCONNECT;
-    if (interfaz_ == IID_IPropertyNotifySink && !Ptr<IPropertyNotifySink>::De(propio.get()))
+    if (!propio && interfaz_ != IID_IPropertyNotifySink)
+        propio = Ptr<IUnknown>::De(sumidero, IID_IDispatch);
+    if (!propio)
         return CONNECT_E_CANNOTCONNECT;
     try {
         conexiones_.push_back({++ultimaGalleta_, std::move(propio)});

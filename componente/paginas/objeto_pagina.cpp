@@ -76,9 +76,8 @@ ControlUsuario* ObjetoPagina::Seleccionado(std::size_t numero) {
         return nullptr;
     const auto control = Ptr<IControlInterno>::De(objetos_[numero].get(), IidControlInterno);
     ControlUsuario* nucleo = nullptr;
-    if (control)
-        control->DarNucleo(windows::ModuloPropio(), &nucleo);
-    return nucleo;
+    return control && SUCCEEDED(control->DarNucleo(windows::ModuloPropio(), &nucleo)) ? nucleo
+                                                                                      : nullptr;
 }
 
 void ObjetoPagina::ChangedCambiado() {

@@ -2,6 +2,7 @@
 
 #include "common/errores.h"
 #include "plataforma/windows/aritmetica.h"
+#include "plataforma/windows/texto_com.h"
 
 #include <olectl.h>
 
@@ -52,31 +53,33 @@ class AvisoDeFuente final : public IPropertyNotifySink {
 };
 
 FuenteOle::FuenteOle(PunteroCom<IFont> fuente)
-    : fuente_(std::move(fuente)), identidad_(PunteroCom<IUnknown>::De(fuente_.get())) {}
+    : fuente_(std::move(fuente)), identidad_(IdentidadDe(fuente_.get())) {}
 
 FuenteOle::~FuenteOle() {
     if (!aviso_)
         return;
     aviso_->Cortar();
-    punto_->Unadvise(galleta_);
+    if (punto_)
+        punto_->Unadvise(galleta_);
 }
 
 AtributosFuente FuenteOle::Atributos() const {
+    const PunteroCom<IFont> fuente = fuente_; // held: it may have this wrapper dropped
     AtributosFuente a;
-    BSTR nombre = nullptr;
-    if (SUCCEEDED(fuente_->get_Name(&nombre)) && nombre)
-        a.Name.assign(reinterpret_cast<const char16_t*>(nombre), ::SysStringLen(nombre));
-    ::SysFreeString(nombre);
+    TextoCom nombre;
+    if (SUCCEEDED(nombre.Pedir([&](BSTR* texto) { return fuente->get_Name(texto); })) &&
+        nombre.Vista().data())
+        a.Name = nombre.Vista();
     CY tamano{};
-    if (SUCCEEDED(fuente_->get_Size(&tamano)))
+    if (SUCCEEDED(fuente->get_Size(&tamano)))
         a.Size = static_cast<double>(tamano.int64) / 10000.0;
     BOOL valor = FALSE;
-    a.Bold = SUCCEEDED(fuente_->get_Bold(&valor)) && valor;
-    a.Italic = SUCCEEDED(fuente_->get_Italic(&valor)) && valor;
-    a.Underline = SUCCEEDED(fuente_->get_Underline(&valor)) && valor;
-    a.Strikethrough = SUCCEEDED(fuente_->get_Strikethrough(&valor)) && valor;
+    a.Bold = SUCCEEDED(fuente->get_Bold(&valor)) && valor;
+    a.Italic = SUCCEEDED(fuente->get_Italic(&valor)) && valor;
+    a.Underline = SUCCEEDED(fuente->get_Underline(&valor)) && valor;
+    a.Strikethrough = SUCCEEDED(fuente->get_Strikethrough(&valor)) && valor;
     SHORT juego = 0;
-    if (SUCCEEDED(fuente_->get_Charset(&juego)))
+    if (SUCCEEDED(fuente->get_Charset(&juego)))
         a.Charset = juego;
     return a;
 }
@@ -90,12 +93,23 @@ void FuenteOle::Conectar() {
     if (aviso_)
         return;
     const auto contenedor = PunteroCom<IConnectionPointContainer>::De(fuente_.get());
-    if (!contenedor ||
-        FAILED(contenedor->FindConnectionPoint(IID_IPropertyNotifySink, punto_.Recibir())))
+    PunteroCom<IConnectionPoint> punto;
+    if (!contenedor || FAILED(punto.Pedir([&](IConnectionPoint** p) {
+            return contenedor->FindConnectionPoint(IID_IPropertyNotifySink, p);
+        })))
         return;
-    aviso_ = PunteroCom<AvisoDeFuente>(new AvisoDeFuente(*this));
-    if (FAILED(punto_->Advise(aviso_.get(), &galleta_)))
-        aviso_ = {};
+    if (aviso_) // connected meanwhile, from inside one of those calls
+        return;
+    const PunteroCom<AvisoDeFuente> aviso(new AvisoDeFuente(*this));
+    aviso_ = aviso;
+    DWORD galleta = 0;
+    if (SUCCEEDED(punto->Advise(aviso.get(), &galleta))) {
+        punto_ = punto;
+        galleta_ = galleta;
+    } else {
+        aviso->Cortar(); // whoever refuses a sink may keep it all the same
+        aviso_.Soltar();
+    }
 }
 
 void FuenteOle::Escuchar(OyenteFuente& oyente) {
@@ -110,20 +124,21 @@ void FuenteOle::DejarDeEscuchar(OyenteFuente& oyente) {
 }
 
 void FuenteOle::Avisar() {
-    // A listener may leave while it is told.
+    // A listener may leave while it is told, and with the last one everybody else who holds this.
+    const auto yo = shared_from_this();
     const auto copia = oyentes_;
     for (OyenteFuente* oyente : copia)
         if (std::find(oyentes_.begin(), oyentes_.end(), oyente) != oyentes_.end())
             oyente->FuenteCambiada();
 }
 
-void SuscripcionFuente::Poner(const Fuente& fuente) {
+void SuscripcionFuente::Poner(Fuente fuente) {
     // The new one first: the old one may hold the last reference to what both share.
     if (auto* nueva = dynamic_cast<FuenteOle*>(fuente.get()))
         nueva->Escuchar(oyente_);
-    if (auto* vieja = dynamic_cast<FuenteOle*>(fuente_.get()))
+    const Fuente anterior = std::exchange(fuente_, std::move(fuente));
+    if (auto* vieja = dynamic_cast<FuenteOle*>(anterior.get()))
         vieja->DejarDeEscuchar(oyente_);
-    fuente_ = fuente;
 }
 
 Fuente EnvolverFuente(IUnknown* objeto) {

@@ -4,6 +4,7 @@
 #include "plataforma/windows/objetos_windows.h"
 #include "plataforma/windows/puntero_com.h"
 
+#include <memory>
 #include <vector>
 
 namespace pincela::windows {
@@ -19,7 +20,7 @@ class OyenteFuente {
 
 class AvisoDeFuente;
 
-class FuenteOle final : public ObjetoFuente {
+class FuenteOle final : public ObjetoFuente, public std::enable_shared_from_this<FuenteOle> {
   public:
     explicit FuenteOle(PunteroCom<IFont> fuente);
     ~FuenteOle() override;
@@ -28,7 +29,8 @@ class FuenteOle final : public ObjetoFuente {
     bool EsElMismo(const Objeto& otro) const override;
     IFont* fuente() const { return fuente_.get(); }
 
-    /// Neither owned; each listener leaves before it dies.
+    /// Neither owned; each listener leaves before it dies. Whoever calls holds the wrapper: the
+    /// font object may answer with anything.
     void Escuchar(OyenteFuente& oyente);
     void DejarDeEscuchar(OyenteFuente& oyente);
     void Avisar();
@@ -53,9 +55,12 @@ class SuscripcionFuente {
     ~SuscripcionFuente() { Poner(nullptr); }
 
     const Fuente& fuente() const { return fuente_; }
-    void Poner(const Fuente& fuente);
+    void Poner(Fuente fuente);
     /// Attributes of the font held; the usual ones when there is none.
-    AtributosFuente Atributos() const { return fuente_ ? fuente_->Atributos() : AtributosFuente{}; }
+    AtributosFuente Atributos() const {
+        const Fuente fuente = fuente_; // held: its object may have it replaced
+        return fuente ? fuente->Atributos() : AtributosFuente{};
+    }
 
   private:
     OyenteFuente& oyente_;

@@ -42,7 +42,7 @@ bool EstirarMapa(IPicture* imagen, HDC dc, const RECT& lugar) {
 } // namespace
 
 ImagenOle::ImagenOle(PunteroCom<IPicture> imagen)
-    : imagen_(std::move(imagen)), identidad_(PunteroCom<IUnknown>::De(imagen_.get())) {}
+    : imagen_(std::move(imagen)), identidad_(IdentidadDe(imagen_.get())) {}
 
 std::int32_t ImagenOle::Width() const {
     OLE_XSIZE_HIMETRIC ancho = 0;
@@ -60,19 +60,22 @@ bool ImagenOle::EsElMismo(const Objeto& otro) const {
 }
 
 void ImagenOle::Dibujar(HDC dc, const RECT& lugar) const {
+    const PunteroCom<IPicture> imagen = imagen_; // held: it may have this wrapper dropped
     const long ancho = lugar.right - lugar.left, alto = lugar.bottom - lugar.top;
     if (ancho <= 0 || alto <= 0)
         return;
     EstadoDc estado(dc);
     ::SetStretchBltMode(dc, HALFTONE);
     ::SetBrushOrgEx(dc, 0, 0, nullptr);
-    if (EsMapaOpaco(imagen_.get()) && EstirarMapa(imagen_.get(), dc, lugar))
+    if (EsMapaOpaco(imagen.get()) && EstirarMapa(imagen.get(), dc, lugar))
         return;
-    const OLE_XSIZE_HIMETRIC anchoPropio = Width();
-    const OLE_YSIZE_HIMETRIC altoPropio = Height();
+    OLE_XSIZE_HIMETRIC anchoPropio = 0;
+    OLE_YSIZE_HIMETRIC altoPropio = 0;
+    if (FAILED(imagen->get_Width(&anchoPropio)) || FAILED(imagen->get_Height(&altoPropio)))
+        return;
     // The picture's own rows run from the bottom.
-    imagen_->Render(dc, lugar.left, lugar.top, ancho, alto, 0, altoPropio, anchoPropio, -altoPropio,
-                    nullptr);
+    imagen->Render(dc, lugar.left, lugar.top, ancho, alto, 0, altoPropio, anchoPropio, -altoPropio,
+                   nullptr);
 }
 
 HCURSOR ImagenOle::Puntero() const {

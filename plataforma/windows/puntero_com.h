@@ -21,7 +21,8 @@ concept DelContenedor = std::same_as<T, IOleClientSite> || std::same_as<T, IOleC
     std::same_as<T, IAdviseSink> || std::same_as<T, IOleAdviseHolder> ||
     std::same_as<T, IDataAdviseHolder> || std::same_as<T, IPropertyPageSite> ||
     std::same_as<T, IOleContainer> || std::same_as<T, IEnumUnknown> ||
-    std::same_as<T, IOleWindow> || std::same_as<T, IOleObject>;
+    std::same_as<T, IOleWindow> || std::same_as<T, IOleObject> || std::same_as<T, IPropertyBag> ||
+    std::same_as<T, IStream>;
 
 /// One call to the outside; ends with the expression that makes it.
 template <class T>
@@ -70,7 +71,8 @@ class PunteroCom {
     static PunteroCom De(U* objeto, REFIID iid = __uuidof(T)) {
         PunteroCom r;
         if (objeto)
-            objeto->QueryInterface(iid, reinterpret_cast<void**>(&r.p_));
+            r.Pedir(
+                [&](T** p) { return objeto->QueryInterface(iid, reinterpret_cast<void**>(p)); });
         return r;
     }
 
@@ -83,7 +85,24 @@ class PunteroCom {
     LlamadaAfuera<T> operator->() const requires DelContenedor<T> { return LlamadaAfuera<T>(p_); }
     explicit operator bool() const { return p_ != nullptr; }
 
-    /// For calls that return a reference through a parameter; what was held is released first.
+    /// Asks somebody else's object for a reference: `llamada(T**)` answers a status. Success
+    /// without an object is E_UNEXPECTED, and what stands beside a failure is nobody's reference.
+    /// What was held is released first; what the call does to this pointer meanwhile is lost.
+    template <class F>
+    HRESULT Pedir(F&& llamada) {
+        Soltar();
+        T* p = nullptr;
+        const HRESULT estado = llamada(&p);
+        if (FAILED(estado))
+            return estado;
+        if (!p)
+            return E_UNEXPECTED;
+        *this = Adoptar(p);
+        return estado;
+    }
+
+    /// For the platform's own functions, which can be taken at their word; what was held is
+    /// released first. Everybody else is asked by Pedir.
     T** Recibir() {
         Soltar();
         return &p_;
@@ -93,5 +112,12 @@ class PunteroCom {
   private:
     T* p_ = nullptr;
 };
+
+/// What tells one object from another. One that does not tell is itself alone.
+template <class T>
+PunteroCom<IUnknown> IdentidadDe(T* objeto) {
+    auto identidad = PunteroCom<IUnknown>::De(objeto);
+    return identidad ? identidad : PunteroCom<IUnknown>(objeto);
+}
 
 } // namespace pincela::windows

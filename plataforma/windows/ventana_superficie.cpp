@@ -107,10 +107,12 @@ LRESULT CALLBACK VentanaSuperficie::Procedimiento(HWND ventana, UINT mensaje, WP
 }
 
 LRESULT VentanaSuperficie::Recibir(HWND ventana, UINT mensaje, WPARAM w, LPARAM l) noexcept {
-    if (mensaje == WM_NCDESTROY)
+    // Whoever sends these does not have to mean them: from here on the window is nobody's.
+    const bool final = mensaje == WM_DESTROY || mensaje == WM_NCDESTROY;
+    if (final)
         ::SetWindowLongPtrW(ventana, GWLP_USERDATA, 0);
     if (nucleo_.cerrando) { // the object may be half gone: nobody may be told anything
-        if (mensaje == WM_DESTROY)
+        if (final)
             Perdida();
         return ::DefWindowProcW(ventana, mensaje, w, l);
     }
@@ -205,8 +207,9 @@ bool VentanaSuperficie::Procesar(UINT mensaje, WPARAM w, LPARAM l, LRESULT& resu
     case WM_CLOSE: // the same, for Escape: the window is the container's to close
         return true;
     case WM_DESTROY:
+    case WM_NCDESTROY: // without the other
         Perdida();
-        return true;
+        return mensaje == WM_DESTROY;
     default:
         return false;
     }

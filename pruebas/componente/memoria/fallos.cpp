@@ -6,6 +6,8 @@
 #include <olectl.h>
 
 #include <cstdlib>
+#include <cstring>
+#include <deque>
 #include <map>
 #include <type_traits>
 
@@ -28,6 +30,8 @@ struct Estado {
     long numero = 0;
     std::map<void*, Bloque> vivos;
     std::map<UINT_PTR, TIMERPROC> relojes;
+    std::size_t retenidos = 0;
+    std::deque<void*> envenenados;
 };
 
 Estado& El() {
@@ -84,8 +88,19 @@ void* ReallocFalso(void* bloque, std::size_t bytes) {
     return Anotar(nuevo, bytes);
 }
 void FreeFalso(void* bloque) {
-    Borrar(bloque);
-    freeReal(bloque);
+    Estado& e = El();
+    const auto uno = e.retenidos ? e.vivos.find(bloque) : e.vivos.end();
+    if (uno == e.vivos.end()) {
+        Borrar(bloque);
+        return freeReal(bloque);
+    }
+    std::memset(bloque, 0xDD, uno->second.bytes);
+    e.vivos.erase(uno);
+    e.envenenados.push_back(bloque);
+    if (e.envenenados.size() > e.retenidos) {
+        freeReal(e.envenenados.front());
+        e.envenenados.pop_front();
+    }
 }
 
 // The platform's functions: each fails as it does when it can't get what it needs.
@@ -198,6 +213,10 @@ bool Fallos::Desarmar() {
 
 long Fallos::BloquesVivos() {
     return static_cast<long>(El().vivos.size());
+}
+
+void Fallos::Envenenar(std::size_t cuantos) {
+    El().retenidos = cuantos;
 }
 
 void Fallos::DarTics() {

@@ -29,6 +29,9 @@ class Fallos {
     static bool Desarmar();
     /// Blocks of the heap that the module asked for and hasn't given back.
     static long BloquesVivos();
+    /// From now on: what the module gives back is made unusable, and the heap gets it only after
+    /// `cuantos` more blocks, so that whoever still uses it is seen. Keeps them until the end.
+    static void Envenenar(std::size_t cuantos);
     /// Runs what the module's timers without a window would run now.
     static void DarTics();
 
