@@ -35,13 +35,17 @@ const wchar_t* CadaClase() {
     return Cada({L"Botonazo", L"Area", L"Tbox", L"TBoxML", L"TboxSS", L"TboxSSML"});
 }
 
+void Empapelar(HDC dc, int ancho, int alto, COLORREF papel) {
+    const RECT todo{0, 0, ancho, alto};
+    const HBRUSH brocha = CreateSolidBrush(papel);
+    FillRect(dc, &todo, brocha);
+    DeleteObject(brocha);
+}
+
 /// Plays a picture as containers do: its mapping mode, and the rectangle to fill.
 Captura Tocar(const METAFILEPICT& imagen, int ancho, int alto, COLORREF papel) {
     return Captura::DeDibujo(ancho, alto, [&](HDC dc) {
-        const RECT todo{0, 0, ancho, alto};
-        const HBRUSH brocha = CreateSolidBrush(papel);
-        FillRect(dc, &todo, brocha);
-        DeleteObject(brocha);
+        Empapelar(dc, ancho, alto, papel);
         SetMapMode(dc, imagen.mm);
         SetViewportExtEx(dc, ancho, alto, nullptr);
         CHECK(PlayMetaFile(dc, imagen.hMF));
@@ -68,10 +72,7 @@ struct Imagen {
 
 Captura VistaDe(const Objeto& o, int ancho, int alto, COLORREF papel) {
     return Captura::DeDibujo(ancho, alto, [&](HDC dc) {
-        const RECT todo{0, 0, ancho, alto};
-        const HBRUSH brocha = CreateSolidBrush(papel);
-        FillRect(dc, &todo, brocha);
-        DeleteObject(brocha);
+        Empapelar(dc, ancho, alto, papel);
         const RECTL limites{0, 0, ancho, alto};
         CHECK(o.objeto.Como<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr,
                                                  dc, &limites, nullptr, nullptr, 0) == S_OK);
