@@ -105,6 +105,10 @@ DuenoRegion LoDibujado(const Nucleo& nucleo, SuperficieWindows& superficie, bool
     if (tamano.cx <= 0 || tamano.cy <= 0 ||
         (nucleo.escena.Vacia() && !superficie.lienzo().imagen().Existe()))
         return DuenoRegion(::CreateRectRgn(0, 0, 0, 0));
+    // Two pictures of what no screen shows are not made to know where little of it is drawn.
+    constexpr std::int64_t Desmedida = std::int64_t{1} << 24;
+    if (std::int64_t{tamano.cx} * tamano.cy > Desmedida)
+        return DuenoRegion();
     ImagenDib hojas[]{ImagenDib(Color(std::uint32_t{0x000000})),
                       ImagenDib(Color(std::uint32_t{0xFFFFFF}))};
     for (ImagenDib& hoja : hojas) {
