@@ -175,7 +175,10 @@ TEST_CASE("A window context that fails hands out nothing that is used") {
                 ole->DoVerb(OLEIVERB_UIACTIVATE, nullptr, sitio.get(), 0, b.socios.padre, &lugar);
             HWND ventana = nullptr;
             control.Como<IOleInPlaceObject>()->GetWindow(&ventana);
-            if (!sinVentana) {
+            if (mentira == Accion::Fallar) {
+                CHECK(estado == Roto); // it refuses, and is heard
+                CHECK(ventana == nullptr);
+            } else if (!sinVentana) {
                 CHECK(SUCCEEDED(estado));
                 CHECK(IsWindow(ventana));
             } else if (mentira == Accion::CallarBasura) {
