@@ -34,7 +34,7 @@ struct Banco {
     Banco() {
         REQUIRE(modulo.Instalar(false, L"user") == S_OK);
         REQUIRE(modulo.Desregistrar() == S_OK);
-        maquina = Volcar(HKEY_LOCAL_MACHINE, ClasesDeSoftware);
+        maquina = Maquina();
         usuario = Volcar(HKEY_CURRENT_USER, ClasesDeSoftware);
     }
     Banco(const Banco&) = delete;
@@ -49,7 +49,7 @@ struct Banco {
         if (!habiaClases)
             RegDeleteKeyW(HKEY_CURRENT_USER, ClasesDeSoftware);
     }
-    Lineas Maquina() const { return Volcar(HKEY_LOCAL_MACHINE, ClasesDeSoftware); }
+    Lineas Maquina() const { return Volcar(HKEY_LOCAL_MACHINE, ClasesDeSoftware, 0, false); }
     Lineas Usuario() const { return Volcar(HKEY_CURRENT_USER, ClasesDeSoftware); }
 
     Modulo modulo;

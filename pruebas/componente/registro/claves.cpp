@@ -1,6 +1,9 @@
 #include "pruebas/componente/registro/claves.h"
 
+#include "pruebas/componente/comun/publicado.h"
+
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include <sddl.h>
@@ -9,9 +12,31 @@ namespace publicado {
 
 namespace {
 
+/// Whether a key may hold something of ours, by its path in small letters.
+bool PuedeSerNuestra(const std::wstring& ruta) {
+    static const std::set<std::wstring> nuestras = [] {
+        std::set<std::wstring> todas{L"clsid", L"interface", L"typelib"};
+        todas.insert(EnMinusculas(std::wstring(L"typelib\\") + Biblioteca));
+        for (const Clase& una : Clases) {
+            todas.insert(EnMinusculas(std::wstring(L"clsid\\") + una.clase));
+            todas.insert(EnMinusculas(std::wstring(L"interface\\") + una.interfaz));
+            if (una.eventos)
+                todas.insert(EnMinusculas(std::wstring(L"interface\\") + una.eventos));
+        }
+        return todas;
+    }();
+    const std::size_t primera = ruta.find(L'\\');
+    const std::size_t segunda =
+        primera == std::wstring::npos ? primera : ruta.find(L'\\', primera + 1);
+    return ruta.starts_with(L"pincela") || nuestras.contains(ruta.substr(0, segunda));
+}
+
 /// Reads a hive; most of its time would go into buffers if each key had its own.
 class Volcador {
   public:
+    /// Without `entero`, of the keys of others only their names and when each was last changed.
+    explicit Volcador(bool entero) : entero_(entero) {}
+
     std::vector<std::wstring> lineas;
 
     void VolcarClave(HKEY raiz, const std::wstring& absoluta, const std::wstring& ruta,
@@ -23,13 +48,19 @@ class Volcador {
         wchar_t nombre[512];
         for (DWORD i = 0;; ++i) {
             DWORD largo = 512;
-            if (RegEnumKeyExW(clave.get(), i, nombre, &largo, nullptr, nullptr, nullptr, nullptr) !=
-                ERROR_SUCCESS)
+            FILETIME cambiada{};
+            if (RegEnumKeyExW(clave.get(), i, nombre, &largo, nullptr, nullptr, nullptr,
+                              &cambiada) != ERROR_SUCCESS)
                 return;
             const std::wstring minusculas = EnMinusculas(nombre);
             if (minusculas == L"wow6432node")
                 continue;
             const std::wstring hija = ruta.empty() ? minusculas : ruta + L"\\" + minusculas;
+            if (!entero_ && !PuedeSerNuestra(hija)) {
+                lineas.push_back(hija + L" @" + std::to_wstring(cambiada.dwHighDateTime) + L'.' +
+                                 std::to_wstring(cambiada.dwLowDateTime));
+                continue;
+            }
             lineas.push_back(hija);
             VolcarClave(clave.get(), nombre, hija);
         }
@@ -57,6 +88,7 @@ class Volcador {
         }
     }
 
+    bool entero_;
     std::vector<BYTE> datos_ = std::vector<BYTE>(64 * 1024);
 };
 
@@ -89,8 +121,8 @@ SoloLectura::~SoloLectura() {
         RegCloseKey(h_);
 }
 
-std::vector<std::wstring> Volcar(HKEY raiz, const std::wstring& ruta, REGSAM ancho) {
-    Volcador volcador;
+std::vector<std::wstring> Volcar(HKEY raiz, const std::wstring& ruta, REGSAM ancho, bool entero) {
+    Volcador volcador(entero);
     volcador.VolcarClave(raiz, ruta, L"", ancho);
     std::sort(volcador.lineas.begin(), volcador.lineas.end());
     return std::move(volcador.lineas);

@@ -68,7 +68,10 @@ std::wstring EnMinusculas(std::wstring texto);
 
 /// Every key below `ruta` as "path" and every value as "path [name] = value", sorted; paths in
 /// small letters, because keys know no case; what is no text, as its type and bytes. The view of
-/// programs of the other width is left out, unless it is the one asked for.
-std::vector<std::wstring> Volcar(HKEY raiz, const std::wstring& ruta, REGSAM ancho = 0);
+/// programs of the other width is left out, unless it is the one asked for. Without `entero` a key
+/// that can't be ours is "path @when it was last changed", and what is below it is not read: the
+/// machine has thousands of them.
+std::vector<std::wstring> Volcar(HKEY raiz, const std::wstring& ruta, REGSAM ancho = 0,
+                                 bool entero = true);
 
 } // namespace publicado

@@ -120,8 +120,10 @@ std::map<std::wstring, int> MapasRegistrados(HKEY raiz) {
 
 TEST_CASE("Registering writes every key of every class, and unregistering takes them all away") {
     const Banco b;
+    const Lineas todo = Volcar(HKEY_LOCAL_MACHINE, ClasesDeSoftware);
     REQUIRE(b.modulo.Registrar() == S_OK);
     const Lineas registrada = b.Maquina();
+    CompararLineas(Nuevas(todo, Volcar(HKEY_LOCAL_MACHINE, ClasesDeSoftware)), {});
     CompararLineas(Nuevas(registrada, b.maquina),
                    TodasLasClaves(MapasRegistrados(HKEY_LOCAL_MACHINE)).Todas(b.maquina));
     CompararLineas(Nuevas(b.maquina, registrada), {}); // nothing of others was touched
@@ -132,6 +134,7 @@ TEST_CASE("Registering writes every key of every class, and unregistering takes 
     CompararLineas(b.Maquina(), b.maquina);
     CHECK(b.modulo.Desregistrar() == S_OK); // nothing is left to be done
     CompararLineas(b.Maquina(), b.maquina);
+    CompararLineas(Volcar(HKEY_LOCAL_MACHINE, ClasesDeSoftware), todo);
 }
 
 TEST_CASE("Registering for one user writes the same keys, in the user's hive only") {

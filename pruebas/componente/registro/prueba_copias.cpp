@@ -90,7 +90,7 @@ class OtroComponente {
 };
 
 Lineas MaquinaAjena() {
-    return Volcar(HKEY_LOCAL_MACHINE, ClasesDeSoftware, OtroAncho);
+    return Volcar(HKEY_LOCAL_MACHINE, ClasesDeSoftware, OtroAncho, false);
 }
 
 std::wstring Linea(const std::wstring& ruta, const std::wstring& valor) {
