@@ -76,8 +76,10 @@ TEST_CASE("Four apartments with controls of all kinds do not notice each other")
         Habitante solo(0, faltas);
         modelos = solo.Retratar();
         REQUIRE(solo.Retratar() == modelos);
-        for (const Captura& una : modelos)
-            REQUIRE(una.Colores() > 2);
+        solo.Vuelta(modelos);
+        REQUIRE(faltas == Faltas{});
+        for (const Vista& una : modelos)
+            REQUIRE(una.imagen.Colores() > 2);
     }
     Convivir(modelos, 1);
     const int gdi = vivo::ObjetosGdi();

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <random>
+#include <span>
 
 namespace hilos {
 
@@ -18,8 +19,15 @@ using namespace anfitrion;
 inline constexpr std::array<const wchar_t*, 6> Controles{L"Botonazo", L"Area",   L"Tbox",
                                                          L"TBoxML",   L"TboxSS", L"TboxSSML"};
 
-/// A look of each control that is always the same.
-using Vistas = std::vector<Captura>;
+/// A look of a control that is always the same, with the size that the platform's font objects say
+/// they have: making two of them at once, one may come out with the size of the other.
+struct Vista {
+    Captura imagen;
+    LONGLONG puntos;
+    friend bool operator==(const Vista&, const Vista&) = default;
+};
+/// One for each control.
+using Vistas = std::vector<Vista>;
 
 class Habitante {
   public:
@@ -31,8 +39,11 @@ class Habitante {
     void Vuelta(const Vistas& modelos);
 
   private:
+    using Clases = std::span<const wchar_t* const>;
+
     std::shared_ptr<ControlAlojado> Agregar(const wchar_t* clase);
-    Captura Retrato(const wchar_t* clase);
+    void Usar(Clases clases, const Vistas& modelos);
+    Vista Retrato(const wchar_t* clase);
     void Vestir(IDispatch* control);
     void Releer(const wchar_t* clase, ControlAlojado& control);
     void Teclear(const wchar_t* clase, ControlAlojado& control);
