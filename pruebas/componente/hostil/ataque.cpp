@@ -107,18 +107,22 @@ HWND VentanaDe(Azar& azar) {
                            200, nullptr, nullptr, nullptr, nullptr);
 }
 
+BOOL CALLBACK CerrarSiEsAviso(HWND ventana, LPARAM) {
+    wchar_t clase[16] = L"";
+    GetClassNameW(ventana, clase, 16);
+    if (lstrcmpW(clase, L"#32770") == 0)
+        PostMessageW(ventana, WM_COMMAND, IDOK, 0);
+    return TRUE;
+}
+
 /// Nobody is there to answer a message of the control's own.
 void CALLBACK CerrarAvisos(HWND, UINT, UINT_PTR, DWORD) {
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND v, LPARAM) -> BOOL {
-            wchar_t clase[16] = L"";
-            GetClassNameW(v, clase, 16);
-            if (lstrcmpW(clase, L"#32770") == 0)
-                PostMessageW(v, WM_COMMAND, IDOK, 0);
-            return TRUE;
-        },
-        0);
+    EnumThreadWindows(GetCurrentThreadId(), &CerrarSiEsAviso, 0);
+}
+
+BOOL CALLBACK Juntar(HWND ventana, LPARAM juntas) {
+    reinterpret_cast<std::vector<HWND>*>(juntas)->push_back(ventana);
+    return TRUE;
 }
 
 } // namespace
@@ -639,13 +643,7 @@ void Ataque::PasoDePagina() {
     }
     // The user's hand on one of the page's widgets.
     std::vector<HWND> hijas;
-    EnumChildWindows(
-        padre,
-        [](HWND v, LPARAM l) -> BOOL {
-            reinterpret_cast<std::vector<HWND>*>(l)->push_back(v);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&hijas));
+    EnumChildWindows(padre, &Juntar, reinterpret_cast<LPARAM>(&hijas));
     if (hijas.empty())
         return;
     const HWND hija = hijas[static_cast<std::size_t>(azar.Menor(static_cast<int>(hijas.size())))];
