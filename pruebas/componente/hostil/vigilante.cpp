@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <set>
 
 namespace hostil {
@@ -241,14 +242,7 @@ class Ejecutor {
         std::vector<HANDLE> hilos;
         for (unsigned i = 0; i < e_.hilos; ++i) {
             auto* mio = new std::pair<Ejecutor*, unsigned>(this, i);
-            hilos.push_back(CreateThread(
-                nullptr, 0,
-                [](void* p) -> DWORD {
-                    const auto par = *static_cast<std::pair<Ejecutor*, unsigned>*>(p);
-                    delete static_cast<std::pair<Ejecutor*, unsigned>*>(p);
-                    return par.first->Hilo(par.second);
-                },
-                mio, 0, nullptr));
+            hilos.push_back(CreateThread(nullptr, 0, &Ejecutor::EmpezarHilo, mio, 0, nullptr));
         }
         int codigo = 0;
         for (const HANDLE hilo : hilos) {
@@ -262,6 +256,12 @@ class Ejecutor {
     }
 
   private:
+    static DWORD WINAPI EmpezarHilo(void* p) {
+        const std::unique_ptr<std::pair<Ejecutor*, unsigned>> par(
+            static_cast<std::pair<Ejecutor*, unsigned>*>(p));
+        return par->first->Hilo(par->second);
+    }
+
     DWORD Hilo(unsigned cual) {
         OleInitialize(nullptr);
         int codigo = 0;
