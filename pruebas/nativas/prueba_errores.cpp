@@ -7,7 +7,6 @@ using namespace pincela::pruebas;
 
 TEST_CASE("An error carries its number to whoever catches it") {
     CHECK(ErrorDe([] { Lanzar(NumeroError::Desbordamiento); }) == 6);
-    CHECK(ErrorDe([] { Lanzar(NumeroError::LlamadaInterna); }) == 97);
     CHECK_THROWS_AS(Lanzar(NumeroError::Subindice), std::exception);
 }
 
@@ -16,8 +15,7 @@ TEST_CASE("Every error number has a description of its own, in Spanish") {
     for (const auto numero :
          {NumeroError::LlamadaNoValida, NumeroError::Desbordamiento, NumeroError::SinMemoria,
           NumeroError::Subindice, NumeroError::DivisionPorCero, NumeroError::TiposNoCoinciden,
-          NumeroError::PermisoDenegado, NumeroError::NuloNoValido, NumeroError::LlamadaInterna,
-          NumeroError::ValorDePropiedad}) {
+          NumeroError::PermisoDenegado, NumeroError::NuloNoValido, NumeroError::ValorDePropiedad}) {
         CHECK_FALSE(DescripcionDe(numero).empty());
         CHECK(vistas.insert(DescripcionDe(numero)).second);
     }
