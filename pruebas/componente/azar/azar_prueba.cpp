@@ -1,5 +1,5 @@
-// Random sequences of what containers, users and files do to a control: whatever comes, the answer is
-// a status, and nothing is left behind.
+// Random sequences of what containers, users and files do to a control: whatever comes, the answer
+// is a status, and nothing is left behind.
 #include "anfitrion/bolsa_memoria.h"
 #include "anfitrion/imagenes.h"
 #include "anfitrion/tardio.h"
@@ -19,7 +19,7 @@ using namespace vivo;
 namespace {
 
 constexpr int Sucesiones = SUCESIONES; ///< over all six controls
-constexpr int PorControl = 50; ///< sequences before it is replaced by a new one
+constexpr int PorControl = 50;         ///< sequences before it is replaced by a new one
 
 class Azar {
   public:
@@ -46,15 +46,9 @@ class Azar {
     }
 
     std::wstring Texto() {
-        static const wchar_t* const textos[] = {L"",
-                                                L"&Aceptar",
-                                                L"16777215*0",
-                                                L"255*65280*16711680",
-                                                L"**",
-                                                L"1*x",
-                                                L"99999999999*1",
-                                                L"12,5",
-                                                L"\xD83D\xDE00\xDC00 \r\n\t&&&"};
+        static const wchar_t* const textos[] = {
+            L"",    L"&Aceptar",      L"16777215*0", L"255*65280*16711680",          L"**",
+            L"1*x", L"99999999999*1", L"12,5",       L"\xD83D\xDE00\xDC00 \r\n\t&&&"};
         if (Una(50))
             return std::wstring(static_cast<std::size_t>(Menor(20000)), L'w');
         return textos[Menor(std::size(textos))];
@@ -106,8 +100,9 @@ class BolsaAdversa : public ObjetoCom<IPropertyBag> {
 
   private:
     HRESULT Suerte() {
-        static constexpr HRESULT errores[] = {E_FAIL,        E_INVALIDARG, E_OUTOFMEMORY, E_ACCESSDENIED,
-                                              STG_E_MEDIUMFULL, S_FALSE,   DISP_E_TYPEMISMATCH};
+        static constexpr HRESULT errores[] = {
+            E_FAIL,           E_INVALIDARG, E_OUTOFMEMORY,      E_ACCESSDENIED,
+            STG_E_MEDIUMFULL, S_FALSE,      DISP_E_TYPEMISMATCH};
         return azar_.Una(15) ? errores[azar_.Menor(std::size(errores))] : S_OK;
     }
 
@@ -194,7 +189,8 @@ class Victima {
 
     DISPID Miembro() {
         return azar_.Una(40) ? static_cast<DISPID>(azar_.Entero())
-                             : numeros_[static_cast<std::size_t>(azar_.Menor(static_cast<int>(numeros_.size())))];
+                             : numeros_[static_cast<std::size_t>(
+                                   azar_.Menor(static_cast<int>(numeros_.size())))];
     }
     void Asignar() {
         const Variante valor = azar_.Valor();
@@ -203,23 +199,28 @@ class Victima {
     }
     void Leer() { Invocar(b_.boton->Despacho(), Miembro(), DISPATCH_PROPERTYGET); }
     void Mover() {
-        const LONG ancho = azar_.Una(8) ? 0 : azar_.Menor(300), alto = azar_.Una(8) ? 0 : azar_.Menor(200);
+        const LONG ancho = azar_.Una(8) ? 0 : azar_.Menor(300),
+                   alto = azar_.Una(8) ? 0 : azar_.Menor(200);
         b_.boton->Mover({10, 10, 10 + ancho, 10 + alto});
     }
     void Mensajes() {
         // No right button going up: the field's menu waits for somebody to choose.
-        static constexpr UINT mensajes[] = {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN,
-                                            WM_MBUTTONUP, WM_KEYDOWN,     WM_KEYUP,     WM_CHAR,
-                                            WM_MOUSELEAVE, WM_SETFOCUS,   WM_KILLFOCUS, WM_PAINT,
-                                            WM_SYSCOLORCHANGE, WM_CAPTURECHANGED, WM_CANCELMODE};
+        static constexpr UINT mensajes[] = {
+            WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP,      WM_RBUTTONDOWN,    WM_MBUTTONUP,
+            WM_KEYDOWN,   WM_KEYUP,       WM_CHAR,           WM_MOUSELEAVE,     WM_SETFOCUS,
+            WM_KILLFOCUS, WM_PAINT,       WM_SYSCOLORCHANGE, WM_CAPTURECHANGED, WM_CANCELMODE};
         const UINT mensaje = mensajes[azar_.Menor(std::size(mensajes))];
         const bool tecla = mensaje >= WM_KEYFIRST && mensaje <= WM_KEYLAST;
-        static constexpr WPARAM teclas[] = {VK_SPACE, VK_RETURN, 'A', VK_DELETE, '.', ',', '7', VK_BACK};
+        static constexpr WPARAM teclas[] = {VK_SPACE, VK_RETURN, 'A', VK_DELETE,
+                                            '.',      ',',       '7', VK_BACK};
         const HWND foco = GetFocus();
-        const HWND ventana = foco && IsChild(b_.Ventana(), foco) && azar_.Una(2) ? foco : b_.Ventana();
+        const HWND ventana =
+            foco && IsChild(b_.Ventana(), foco) && azar_.Una(2) ? foco : b_.Ventana();
         if (ventana)
             SendMessageW(ventana, mensaje, tecla ? teclas[azar_.Menor(8)] : 0,
-                         tecla || mensaje < WM_MOUSEFIRST ? 0 : MAKELPARAM(azar_.Menor(200), azar_.Menor(80)));
+                         tecla || mensaje < WM_MOUSEFIRST
+                             ? 0
+                             : MAKELPARAM(azar_.Menor(200), azar_.Menor(80)));
     }
     void GuardarYCargar() {
         const auto guardable = b_.boton->Como<IPersistStreamInit>();
@@ -260,15 +261,15 @@ class Victima {
         const HBITMAP mapa = CreateBitmap(60, 40, 1, 32, nullptr);
         const HGDIOBJ antes = SelectObject(hdc, mapa);
         const RECTL lugar{azar_.Menor(20), azar_.Menor(20), azar_.Menor(60), azar_.Menor(40)};
-        b_.boton->Como<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, hdc, &lugar,
-                                            nullptr, nullptr, 0);
+        b_.boton->Como<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, hdc,
+                                            &lugar, nullptr, nullptr, 0);
         SelectObject(hdc, antes);
         DeleteObject(mapa);
         DeleteDC(hdc);
     }
     void Activar() {
-        static constexpr LONG verbos[] = {OLEIVERB_UIACTIVATE, OLEIVERB_INPLACEACTIVATE, OLEIVERB_HIDE,
-                                          OLEIVERB_SHOW};
+        static constexpr LONG verbos[] = {OLEIVERB_UIACTIVATE, OLEIVERB_INPLACEACTIVATE,
+                                          OLEIVERB_HIDE, OLEIVERB_SHOW};
         b_.boton->Verbo(verbos[azar_.Menor(std::size(verbos))]);
     }
 
@@ -289,8 +290,9 @@ void Maltratar(Azar& azar, int sucesiones, const wchar_t* clase) {
 } // namespace
 
 TEST_CASE("Random sequences end in statuses and leave nothing behind") {
-    const wchar_t* clase = pincela::pruebas::Cada({L"Pincela.Botonazo", L"Pincela.Area", L"Pincela.Tbox", L"Pincela.TBoxML",
-                                 L"Pincela.TboxSS", L"Pincela.TboxSSML"});
+    const wchar_t* clase =
+        pincela::pruebas::Cada({L"Pincela.Botonazo", L"Pincela.Area", L"Pincela.Tbox",
+                                L"Pincela.TBoxML", L"Pincela.TboxSS", L"Pincela.TboxSSML"});
     // The file stays loaded, as it does in a program.
     AbrirOle();
     static const Componente& componente = *new Componente(Componente::DeFichero(RutaComponente()));
@@ -303,20 +305,23 @@ TEST_CASE("Random sequences end in statuses and leave nothing behind") {
     const Monton monton = Memoria();
     Maltratar(azar, Sucesiones / 6, clase);
     const Monton despues = Memoria();
-    std::printf("%s: GDI %d -> %d, windows %d -> %d, blocks of the component %ld -> %ld, of all %ld -> %ld\n",
+    std::printf("%s: GDI %d -> %d, windows %d -> %d, blocks of the component %ld -> %ld, of all "
+                "%ld -> %ld\n",
                 Estrechar(clase).c_str(), gdi, ObjetosGdi(), ventanas, Ventanas(), propios,
                 memoria::Fallos::BloquesVivos(), monton.bloques, despues.bloques);
-    // The platform keeps a few device contexts and patterns once it has needed them all at a time: what
-    // a control leaves behind is left again.
-    if (const int quedan = ObjetosGdi(); quedan > gdi) {
+    // The platform keeps a few device contexts and patterns once it has needed them all at a time,
+    // which may be late: what a control leaves behind is left again each time.
+    int antes = gdi, ahora = ObjetosGdi();
+    for (int vez = 0; ahora > antes && vez < 4; ++vez) {
         Maltratar(azar, Sucesiones / 6, clase);
-        std::printf("%s: GDI once more %d -> %d\n", Estrechar(clase).c_str(), quedan, ObjetosGdi());
-        CHECK(ObjetosGdi() <= quedan);
+        antes = std::exchange(ahora, ObjetosGdi());
+        std::printf("%s: GDI once more %d -> %d\n", Estrechar(clase).c_str(), antes, ahora);
     }
+    CHECK(ahora <= antes);
     CHECK(Ventanas() == ventanas);
     CHECK(memoria::Fallos::BloquesVivos() == propios);
-    // What goes to others is theirs to free. The platform's own caches of fonts and classes breathe, and
-    // its edit field of many lines loses some blocks whenever it goes.
+    // What goes to others is theirs to free. The platform's own caches of fonts and classes
+    // breathe, and its edit field of many lines loses some blocks whenever it goes.
     if (!std::wstring_view(clase).ends_with(L"ML"))
         CHECK(despues.bloques - monton.bloques < std::max(50, Sucesiones / 6 / PorControl));
 }
