@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <limits>
 #include <random>
+#include <utility>
 
 using namespace vivo;
 
