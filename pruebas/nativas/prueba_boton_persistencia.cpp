@@ -333,7 +333,8 @@ TEST_CASE("stored values that don't fit raise the conversion's error") {
     CHECK(ErrorAlLeer(u"CambioProgrePasos", std::int16_t{255}) == 0);
     CHECK(ErrorAlLeer(u"Angulo", std::int32_t{40000}) == Desborda);
     CHECK(ErrorAlLeer(u"MousePointer", std::int32_t{-40000}) == Desborda);
-    CHECK(ErrorAlLeer(u"ColorFondo", 3e9) == Desborda);
+    CHECK(ErrorAlLeer(u"ColorFondo", 5e9) == Desborda);
+    CHECK(ErrorAlLeer(u"ColorFondo", 3e9) == 0); // any pattern of 32 bits is a colour
     CHECK(ErrorAlLeer(u"RelX", 1e300) == Desborda);
     CHECK(ErrorAlLeer(u"RelX", Texto(u"ancho")) == NoCoincide);
     CHECK(ErrorAlLeer(u"Enabled", Texto(u"tal vez")) == NoCoincide);

@@ -241,7 +241,8 @@ TEST_CASE("stored values that don't fit raise the conversion's error") {
     CHECK(ErrorAlLeer<Tbox>(u"Separa", std::int32_t{40000}) == kDesbordamiento);
     CHECK(ErrorAlLeer<Tbox>(u"MousePointer", std::int32_t{-40000}) == kDesbordamiento);
     CHECK(ErrorAlLeer<Tbox>(u"MaxText", 3e9) == kDesbordamiento);
-    CHECK(ErrorAlLeer<Tbox>(u"ColorLetraES", 3e9) == kDesbordamiento);
+    CHECK(ErrorAlLeer<Tbox>(u"ColorLetraES", 5e9) == kDesbordamiento);
+    CHECK(ErrorAlLeer<Tbox>(u"ColorLetraES", 3e9) == 0); // any pattern of 32 bits is a colour
     CHECK(ErrorAlLeer<Tbox>(u"Enabled", Texto(u"tal vez")) == kTipos);
     CHECK(ErrorAlLeer<Tbox>(u"TipoLetra", Texto(u"")) == kTipos);
     CHECK(ErrorAlLeer<Tbox>(u"MouseIcon", Texto(u"mano")) == kTipos);
